@@ -1,0 +1,23 @@
+#ifndef VRK_APP_HOSTSESSION_H
+#define VRK_APP_HOSTSESSION_H
+
+#include "base/LogTag.h"
+#include "base/PluginLoader.h"
+
+#include <string>
+
+// The host as the command line sets it up: log lines to standard output under the
+// chosen level, then every plugin loaded.
+class HostSession {
+public:
+    HostSession(VRK::LogTag level, const std::string& pluginDir);
+
+    // Reports plugins that failed to load on standard error; true when all loaded.
+    bool reportPluginFailures() const;
+    const VRK::PluginLoader& getLoader() const { return loader_; }
+
+private:
+    VRK::PluginLoader loader_;
+};
+
+#endif

@@ -1,0 +1,54 @@
+#include "apps/vrk/HostSession.h"
+#include "apps/vrk/ListCommand.h"
+
+#include "base/LogTagInfo.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace {
+
+// Accepts the script keywords of a log level (".info", ".debug", ...).
+std::string checkLogLevel(const std::string& text)
+{
+    return VRK::LogTagInfo::fromName(text) ? std::string()
+                                           : "\"" + text + "\" is not a log level (.unconditional, "
+                                                          ".error, .warning, .result, .info, "
+                                                          ".info2, .debug, .debug2, .trace)";
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app("vrk - reads, checks and runs dataflow model scripts");
+    app.require_subcommand(1);
+    app.fallthrough();
+
+    std::string logLevel = ".info";
+    std::string pluginDir;
+    app.add_option("--log-level", logLevel, "Most verbose log level shown (default .info)")
+        ->check(checkLogLevel);
+    app.add_option("--plugin-dir", pluginDir, "Folder of the plugins to load");
+
+    std::string listWhat;
+    CLI::App* list = app.add_subcommand("list", "List what the plugins registered");
+    list->add_option("what", listWhat, "functors, types, readers, writers or converters")
+        ->check(CLI::IsMember({"functors", "types", "readers", "writers", "converters"}));
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        const int status = app.exit(error);
+        return status == 0 ? 0 : 2;
+    }
+
+    HostSession session(*VRK::LogTagInfo::fromName(logLevel), pluginDir);
+    const bool pluginsLoaded = session.reportPluginFailures();
+
+    int status = 0;
+    if (list->parsed())
+        status = ListCommand::run(listWhat, std::cout);
+    return status != 0 ? status : (pluginsLoaded ? 0 : 1);
+}

@@ -1,0 +1,7 @@
+#include "base/BaseNameEditor.h"
+
+namespace VRK {
+
+BaseNameEditor::~BaseNameEditor() = default;
+
+} // namespace VRK

@@ -1,0 +1,7 @@
+#include "base/Cancellable.h"
+
+namespace VRK {
+
+Cancellable::~Cancellable() = default;
+
+} // namespace VRK

@@ -1,0 +1,7 @@
+#include "base/DataConverter.h"
+
+namespace VRK {
+
+DataConverter::~DataConverter() = default;
+
+} // namespace VRK

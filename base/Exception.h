@@ -1,0 +1,34 @@
+#ifndef VRK_BASE_EXCEPTION_H
+#define VRK_BASE_EXCEPTION_H
+
+#include <exception>
+#include <string>
+
+namespace VRK {
+
+// Root of every error a user can cause. `getName` names the class in log lines.
+class Exception : public std::exception {
+public:
+    explicit Exception(const std::string& message);
+    Exception(const Exception&) = default;
+    ~Exception() override;
+
+    const char* what() const noexcept override;
+    const std::string& getMessage() const { return message_; }
+    virtual const char* getName() const;
+
+private:
+    std::string message_;
+};
+
+} // namespace VRK
+
+// Declares an exception class of the family: a message, a base and its own name.
+#define VRK_DECLARE_EXCEPTION(Class, Base)                                                \
+    class Class : public Base {                                                           \
+    public:                                                                               \
+        explicit Class(const std::string& message) : Base(message) {}                     \
+        const char* getName() const override { return #Class; }                           \
+    };
+
+#endif

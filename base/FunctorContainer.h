@@ -1,0 +1,65 @@
+#ifndef VRK_BASE_FUNCTORCONTAINER_H
+#define VRK_BASE_FUNCTORCONTAINER_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace VRK {
+
+class Functor;
+class Script;
+
+// An ordered collection of functors that it owns: a script or a container functor.
+class FunctorContainer {
+public:
+    // Walks a snapshot of the contents, so the container may change meanwhile.
+    class FunctorIterator {
+    public:
+        explicit FunctorIterator(std::vector<Functor*> functors);
+        Functor* next() const;
+        bool hasNext() const;
+
+    private:
+        std::vector<Functor*> functors_;
+        mutable size_t index_ = 0;
+    };
+
+    virtual ~FunctorContainer();
+
+    // Creates a functor by registered name or alias and adds it.
+    virtual Functor* createFunctor(const std::string& name, bool notify);
+    // Moves a functor from its present container into this one.
+    virtual void transferFunctor(Functor* functor, bool notify);
+    virtual void addFunctor(const std::shared_ptr<Functor>& functor, bool notify);
+    virtual void eraseFunctor(Functor* functor, bool notify);
+    virtual Functor* getFunctor(size_t index) const;
+    virtual bool containsFunctor(Functor* functor) const;
+    virtual size_t getFunctorCount() const;
+    virtual void reorderFunctor(Functor* functor, int index);
+    // Erases the functor and clears the caller's pointer to it.
+    virtual void releaseFunctor(Functor*& functor);
+    virtual FunctorIterator getFunctorIterator() const;
+    virtual void clear();
+    // Adds a copy of `functor` and returns it.
+    virtual Functor* copyFunctor(Functor* functor, bool notify);
+
+    // The container seen as a functor; none for a script.
+    virtual Functor* asFunctor() { return nullptr; }
+    virtual const Functor* asFunctor() const { return nullptr; }
+    // The container that holds this one; none for a script.
+    FunctorContainer* getParentContainer() const;
+    virtual Script* getScript();
+
+    const std::vector<std::shared_ptr<Functor>>& getFunctors() const { return functors_; }
+    std::shared_ptr<Functor> getSharedFunctor(const Functor* functor) const;
+
+private:
+    std::vector<std::shared_ptr<Functor>>::const_iterator find(const Functor* functor) const;
+
+    std::vector<std::shared_ptr<Functor>> functors_;
+};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef VRK_BASE_LINEBUFFER_H
+#define VRK_BASE_LINEBUFFER_H
+
+#include <string>
+#include <vector>
+
+namespace VRK {
+
+// The lines of a text, to quote a line of a script in a diagnostic.
+class LineBuffer {
+public:
+    LineBuffer() = default;
+    explicit LineBuffer(const std::string& text);
+
+    // Line `line`, counted from 1, without its line break; empty when out of range.
+    std::string getLine(size_t line) const;
+    size_t getLineCount() const { return lines_.size(); }
+
+private:
+    std::vector<std::string> lines_;
+};
+
+} // namespace VRK
+
+#endif

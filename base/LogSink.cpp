@@ -1,0 +1,7 @@
+#include "base/LogSink.h"
+
+namespace VRK {
+
+LogSink::~LogSink() = default;
+
+} // namespace VRK

@@ -1,0 +1,11 @@
+#ifndef VRK_BASE_NULLTYPE_H
+#define VRK_BASE_NULLTYPE_H
+
+namespace VRK {
+
+// Stands for "none" where a viewer or editor class is expected.
+class NullType {};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,33 @@
+#ifndef VRK_BASE_PROCESSOR_H
+#define VRK_BASE_PROCESSOR_H
+
+#include <tbb/global_control.h>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+
+namespace VRK {
+
+// The process-wide number of processors that parallel work may use; 0 means all.
+class Processor {
+public:
+    Processor();
+    ~Processor();
+
+    void setProcessorCount(unsigned int count);
+    unsigned int getProcessorCount() const;
+    // The count that parallel work actually gets: the set count, or every hardware
+    // thread when it is 0.
+    unsigned int getEffectiveProcessorCount() const;
+
+private:
+    std::atomic<unsigned int> count_;
+    std::mutex mutex_;
+    std::unique_ptr<tbb::global_control> control_;
+};
+
+} // namespace VRK
+
+#endif

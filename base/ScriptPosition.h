@@ -1,0 +1,23 @@
+#ifndef VRK_BASE_SCRIPTPOSITION_H
+#define VRK_BASE_SCRIPTPOSITION_H
+
+#include <ostream>
+#include <string>
+
+namespace VRK {
+
+// Where something stands in a script file; line 0 when unknown.
+struct ScriptPosition {
+    std::string file;
+    int line = 0;
+    int column = 0;
+
+    bool isKnown() const { return line > 0; }
+};
+
+// Prints "file:line:column".
+std::ostream& operator<<(std::ostream& out, const ScriptPosition& position);
+
+} // namespace VRK
+
+#endif

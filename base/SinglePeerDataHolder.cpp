@@ -1,0 +1,20 @@
+#include "base/SinglePeerDataHolder.h"
+
+#include "base/BaseType.h"
+#include "base/TypeCompatibility.h"
+
+#include <cassert>
+
+namespace VRK {
+
+void SinglePeerDataHolder::pullData()
+{
+    assert(peer_ != 0 && "isBound()");
+    if (!peer_->hasData()) {
+        resetData();
+        return;
+    }
+    setDataPtr(TypeCompatibility::adapt(peer_->getDataPtr(), peer_->getType(), getType()));
+}
+
+} // namespace VRK

@@ -1,0 +1,24 @@
+#ifndef VRK_BASE_TRACE_H
+#define VRK_BASE_TRACE_H
+
+#include <string>
+
+namespace VRK {
+
+// The host's call trace: what the current thread is doing, outermost first. Work that
+// a user would want named in an error (running a functor, reading a script) opens a
+// frame for its duration.
+class Trace {
+public:
+    explicit Trace(const std::string& frame);
+    ~Trace();
+    Trace(const Trace&) = delete;
+    Trace& operator=(const Trace&) = delete;
+
+    // One line per open frame, outermost first; empty when none is open.
+    static std::string getDescription();
+};
+
+} // namespace VRK
+
+#endif

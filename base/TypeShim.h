@@ -1,0 +1,20 @@
+#ifndef VRK_BASE_TYPESHIM_H
+#define VRK_BASE_TYPESHIM_H
+
+#include "base/Singleton.h"
+#include "base/Type.h"
+
+namespace VRK {
+
+// Base of a concrete type class TypeT of data DataT; gives it `getInstance`.
+template <class TypeT, class DataT>
+class TypeShim : public Type<DataT> {
+public:
+    using Type<DataT>::Type;
+
+    static std::shared_ptr<TypeT> getInstance() { return Singleton<TypeT>::getInstance(); }
+};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,26 @@
+#ifndef VRK_BASE_TYPEABLE_H
+#define VRK_BASE_TYPEABLE_H
+
+#include "base/Descriptable.h"
+
+#include <memory>
+
+namespace VRK {
+
+class BaseType;
+
+// A described object of a type: functors, ports and data holders.
+class Typeable : public Descriptable {
+public:
+    Typeable(const std::string& name, const std::string& description,
+             const std::shared_ptr<BaseType>& type);
+
+    std::shared_ptr<BaseType> getType() const { return type_; }
+
+private:
+    std::shared_ptr<BaseType> type_;
+};
+
+} // namespace VRK
+
+#endif

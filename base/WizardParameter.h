@@ -1,0 +1,20 @@
+#ifndef VRK_BASE_WIZARDPARAMETER_H
+#define VRK_BASE_WIZARDPARAMETER_H
+
+#include "base/ScriptPosition.h"
+
+#include <string>
+
+namespace VRK {
+
+// One line of a parameter file: the value text for the port of an aliased functor.
+struct WizardParameter {
+    std::string alias;
+    std::string port;
+    std::string value;
+    ScriptPosition position;
+};
+
+} // namespace VRK
+
+#endif
