@@ -1,19 +1,49 @@
 #include "base/BaseType.h"
 
+#include <algorithm>
+#include <mutex>
+
 namespace VRK {
+
+namespace {
+std::mutex registryMutex;
+std::vector<const BaseType*>& registry()
+{
+    static std::vector<const BaseType*> types;
+    return types;
+}
+void enter(const BaseType* type)
+{
+    std::lock_guard<std::mutex> lock(registryMutex);
+    registry().push_back(type);
+}
+} // namespace
 
 BaseType::BaseType(const std::string& name, const std::string& description)
     : name_(name), description_(description)
 {
+    enter(this);
 }
 
 BaseType::BaseType(const std::string& name, const std::string& description,
                    const std::shared_ptr<BaseType>& parent)
     : name_(name), description_(description), parent_(parent)
 {
+    enter(this);
 }
 
-BaseType::~BaseType() = default;
+BaseType::~BaseType()
+{
+    std::lock_guard<std::mutex> lock(registryMutex);
+    auto& types = registry();
+    types.erase(std::remove(types.begin(), types.end(), this), types.end());
+}
+
+std::vector<const BaseType*> BaseType::getAllTypes()
+{
+    std::lock_guard<std::mutex> lock(registryMutex);
+    return registry();
+}
 
 void BaseType::toStream(std::ostream& out, int indent) const
 {

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace VRK {
 
@@ -34,6 +35,9 @@ public:
     // The editor and viewer of this type's data; empty where the type has none.
     virtual std::shared_ptr<DataEditor> createEditor() const;
     virtual std::shared_ptr<DataViewer> createViewer() const;
+
+    // Every type that exists in the process, in order of creation.
+    static std::vector<const BaseType*> getAllTypes();
 
 private:
     std::string name_;

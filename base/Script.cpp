@@ -2,6 +2,8 @@
 
 #include "base/ContainerFunctor.h"
 
+#include <cassert>
+
 namespace VRK {
 
 namespace {
@@ -19,6 +21,18 @@ Functor* findIn(const FunctorContainer& container, const std::string& alias)
 } // namespace
 
 Script::Script() = default;
+
+void Script::runLight(Functor* functor)
+{
+    assert(functor != 0 && "functor != 0");
+    for (const auto& port : functor->getInputPorts()) {
+        DataHolder* peer = port->getPeer();
+        if (port->isBound() && !port->isFeedback() && !peer->hasData() && peer->getOwner()
+            && peer->getOwner() != functor)
+            runLight(peer->getOwner());
+    }
+    functor->run();
+}
 
 Script::~Script() = default;
 

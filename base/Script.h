@@ -25,6 +25,10 @@ public:
     const LineBuffer& getSource() const { return source_; }
     void setSource(const std::string& text) { source_ = LineBuffer(text); }
 
+    // Runs `functor` and, first, whatever it needs that has not produced its data yet,
+    // so that its outputs exist (a work directory needed while preparing a file name).
+    void runLight(Functor* functor);
+
     // The functor of the script with this alias, searched at every depth.
     Functor* findFunctorByAlias(const std::string& alias) const;
 

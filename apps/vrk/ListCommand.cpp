@@ -2,11 +2,7 @@
 
 #include "base/BaseType.h"
 #include "base/FactoryFarmManager.h"
-#include "base/Functor.h"
-#include "base/InputPort.h"
 #include "base/ScannerTypes.h"
-
-#include <set>
 
 namespace {
 
@@ -30,26 +26,14 @@ void listFunctors(std::ostream& out)
     listNamed("functors", VRK::FactoryFarmManager::Instance().getFunctorFactory()->getEntries(), out);
 }
 
-// Types are not registered by name: they are the types of the registered functors' ports.
 void listTypes(std::ostream& out)
 {
-    auto factory = VRK::FactoryFarmManager::Instance().getFunctorFactory();
-    std::set<std::string> seen;
     out << "types:\n";
-    auto show = [&](const std::shared_ptr<VRK::BaseType>& type) {
-        for (auto t = type; t && seen.insert(t->getName()).second; t = t->getParent()) {
-            out << "  " << t->getName() << "  \"" << t->getDescription() << "\"";
-            if (t->getParent())
-                out << "  parent " << t->getParent()->getName();
-            out << '\n';
-        }
-    };
-    for (const auto& entry : factory->getEntries()) {
-        auto functor = factory->create(entry.key);
-        for (const auto& port : functor->getInputPorts())
-            show(port->getType());
-        for (const auto& port : functor->getOutputPorts())
-            show(port->getType());
+    for (const VRK::BaseType* type : VRK::BaseType::getAllTypes()) {
+        out << "  " << type->getName() << "  \"" << type->getDescription() << "\"";
+        if (type->getParent())
+            out << "  parent " << type->getParent()->getName();
+        out << '\n';
     }
 }
 
