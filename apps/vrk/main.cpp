@@ -5,7 +5,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include <functional>
 #include <iostream>
+#include <vector>
 
 namespace {
 
@@ -17,6 +19,12 @@ std::string checkLogLevel(const std::string& text)
                                                           ".error, .warning, .result, .info, "
                                                           ".info2, .debug, .debug2, .trace)";
 }
+
+// A subcommand and what runs it once the host is set up; it returns the exit status.
+struct Command {
+    CLI::App* app;
+    std::function<int()> run;
+};
 
 } // namespace
 
@@ -32,10 +40,13 @@ int main(int argc, char** argv)
         ->check(checkLogLevel);
     app.add_option("--plugin-dir", pluginDir, "Folder of the plugins to load");
 
+    std::vector<Command> commands;
+
     std::string listWhat;
     CLI::App* list = app.add_subcommand("list", "List what the plugins registered");
     list->add_option("what", listWhat, "functors, types, readers, writers or converters")
         ->check(CLI::IsMember({"functors", "types", "readers", "writers", "converters"}));
+    commands.push_back({list, [&] { return ListCommand::run(listWhat, std::cout); }});
 
     try {
         app.parse(argc, argv);
@@ -47,8 +58,10 @@ int main(int argc, char** argv)
     HostSession session(*VRK::LogTagInfo::fromName(logLevel), pluginDir);
     const bool pluginsLoaded = session.reportPluginFailures();
 
-    int status = 0;
-    if (list->parsed())
-        status = ListCommand::run(listWhat, std::cout);
-    return status != 0 ? status : (pluginsLoaded ? 0 : 1);
+    for (const auto& command : commands)
+        if (command.app->parsed()) {
+            const int status = command.run();
+            return status != 0 ? status : (pluginsLoaded ? 0 : 1);
+        }
+    return 2;
 }
