@@ -1,0 +1,166 @@
+#include "plugins/prim/PrimRegistrar.h"
+
+#include "base/ContainerFunctor.h"
+#include "base/DataConverter.h"
+#include "base/FactoryFarmManager.h"
+#include "base/ScannerTypes.h"
+#include "base/Script.h"
+#include "tests/support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using VRK::Testing::LogCapture;
+
+class Probe : public VRK::Functor {
+public:
+    Probe() : Functor("Probe", "A functor for tests", nullptr) {}
+    void runImpl() override {}
+};
+
+class OtherProbe : public VRK::Functor {
+public:
+    OtherProbe() : Functor("OtherProbe", "Another functor for tests", nullptr) {}
+    void runImpl() override {}
+};
+
+struct ProbeData : VRK::BaseData {
+    explicit ProbeData(int v) : value(v) {}
+    int value;
+};
+
+class ProbeReader : public VRK::DataReader<VRK::PlainScanner> {
+public:
+    using DataReader::DataReader;
+    std::ptrdiff_t read(const VRK::PlainScanner&) const override { return 0; }
+};
+
+class ProbeConverter : public VRK::DataConverter {
+public:
+    VRK::BaseData* convert(const VRK::BaseData& source) const override
+    {
+        return new ProbeData(dynamic_cast<const ProbeData&>(source).value + 1);
+    }
+};
+
+} // namespace
+
+TEST(PrimRegistrar, RefusedDuplicateIsLoggedAndTheNextEntryStillRegisters)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    LogCapture capture;
+    EXPECT_TRUE(registrar.registerFunctor<Probe>("Probe", "Control", {"OldProbe"}));
+    EXPECT_FALSE(registrar.registerFunctor<Probe>("Probe", "Control"));
+    EXPECT_TRUE(registrar.registerFunctor<OtherProbe>("OtherProbe", "Control (Suppl.)"));
+    EXPECT_FALSE(registrar.registerFunctor<OtherProbe>("Not valid", "Control"));
+
+    const std::vector<std::string> expected = {
+        "Functor \"Probe\" (group \"Control\") is being registered:",
+        "Functor \"Probe\" registered successfully.",
+        "Functor \"Probe\" (group \"Control\") is being registered:",
+        "Functor \"Probe\" registration failed.",
+        "Functor \"OtherProbe\" (group \"Control (Suppl.)\") is being registered:",
+        "Functor \"OtherProbe\" registered successfully.",
+        "Functor \"Not valid\" (group \"Control\") is being registered:",
+        "Functor \"Not valid\" registration failed.",
+    };
+    EXPECT_EQ(capture.lines(), expected);
+    auto entries = farm.getFunctorFactory()->getEntries();
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[1].key, "OtherProbe");
+    EXPECT_EQ(entries[1].group, "Control (Suppl.)");
+}
+
+TEST(PrimRegistrar, AliasesCreateTheSameClassAndEnterTheNameParser)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    ASSERT_TRUE(registrar.registerFunctor<Probe>("Probe", "Control", {"OldProbe", "Older"}));
+    auto byAlias = farm.getFunctorFactory()->create("Older");
+    EXPECT_NE(dynamic_cast<Probe*>(byAlias.get()), nullptr);
+    EXPECT_EQ(farm.getFunctorFactory()->resolve("OldProbe"), "Probe");
+    EXPECT_THROW(farm.getFunctorFactory()->create("Missing"), VRK::FactoryError);
+
+    using namespace boost::spirit::classic;
+    std::string found;
+    EXPECT_TRUE(parse("OldProbe", (*farm.getFunctorParser())[assign_a(found)]).full);
+    EXPECT_EQ(found, "Probe");
+}
+
+TEST(PrimRegistrar, ReaderFactoryPerScannerIsCreatedOnceAndLogged)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    LogCapture capture;
+    EXPECT_TRUE((registrar.registerDataReader<ProbeReader, VRK::PlainScanner>("Bool", "Map Algebra (Suppl.)", "plain")));
+    EXPECT_FALSE((registrar.registerDataReader<ProbeReader, VRK::PlainScanner>("Bool", "Map Algebra (Suppl.)", "plain")));
+    const std::vector<std::string> expected = {
+        "DataReader \"Bool\" (group \"Map Algebra (Suppl.)\") is being registered for scanner \"plain\":",
+        "DataReaderFactory instantiated for scanner \"plain\".",
+        "DataReader \"Bool\" registered successfully.",
+        "DataReader \"Bool\" (group \"Map Algebra (Suppl.)\") is being registered for scanner \"plain\":",
+        "DataReader \"Bool\" registration failed.",
+    };
+    EXPECT_EQ(capture.lines(), expected);
+    EXPECT_EQ(farm.getDataReaderFactory<VRK::PlainScanner>("plain"),
+              farm.getDataReaderFactory<VRK::PlainScanner>("plain"));
+}
+
+TEST(PrimRegistrar, DeliberateWordingsOfWriterAndConverterFailures)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    LogCapture capture;
+    EXPECT_TRUE(registrar.registerDataConverter<ProbeConverter>("Map Algebra (Suppl.)", "Bool", "Double"));
+    EXPECT_FALSE(registrar.registerDataConverter<ProbeConverter>("Map Algebra (Suppl.)", "Bool", "Double"));
+    EXPECT_FALSE(registrar.registerDataConverter<ProbeConverter>("Map Algebra (Suppl.)", "Bad Name", "Double"));
+    const auto lines = capture.lines();
+    ASSERT_EQ(lines.size(), 6u);
+    EXPECT_EQ(lines[0], "DataConverter \"Bool->Double\" (group \"Map Algebra (Suppl.)\") is being registered:");
+    EXPECT_EQ(lines[1], "DataConverter \"Bool->Double\" registered successfully.");
+    EXPECT_EQ(lines[3], "DataConverter \"Bool->Double\" registration failed.");
+    EXPECT_EQ(lines[5], "FunctorScheduler \"Bad Name->Double\" registration failed.");
+
+    auto converted = std::unique_ptr<VRK::BaseData>(
+        farm.getDataConverterFactory()->create(VRK::DataConverterName("Bool", "Double"))->convert(ProbeData(4)));
+    EXPECT_EQ(dynamic_cast<ProbeData&>(*converted).value, 5);
+}
+
+TEST(PrimRegistrar, NothingIsLoggedBelowDebugAndEntriesStillRegister)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    LogCapture capture(VRK::info);
+    EXPECT_TRUE(registrar.registerFunctor<Probe>("Probe", "Control"));
+    EXPECT_TRUE(registrar.registerData<ProbeData>());
+    EXPECT_TRUE(capture.lines().empty());
+    EXPECT_TRUE(farm.getFunctorFactory()->isRegistered("Probe"));
+}
+
+TEST(CloneFactories, CopyByRunTimeClass)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    ASSERT_TRUE(registrar.registerData<ProbeData>());
+    ASSERT_TRUE(registrar.registerFunctor<Probe>("Probe", "Control"));
+    ASSERT_FALSE(registrar.registerData<ProbeData>());
+
+    const VRK::BaseData& original = ProbeData(42);
+    std::unique_ptr<VRK::BaseData> copy(farm.getDataCloneFactory()->CreateObject(&original));
+    ASSERT_NE(dynamic_cast<ProbeData*>(copy.get()), nullptr);
+    EXPECT_EQ(dynamic_cast<ProbeData&>(*copy).value, 42);
+
+    Probe probe;
+    probe.setAlias("p");
+    auto clone = farm.getFunctorCloneFactory()->create(probe);
+    EXPECT_NE(dynamic_cast<Probe*>(clone.get()), nullptr);
+    EXPECT_NE(clone.get(), &probe);
+
+    // Classes nobody registered are refused with an error, not copied by their base.
+    EXPECT_THROW(farm.getFunctorCloneFactory()->create(OtherProbe()), VRK::FactoryError);
+    struct Unregistered : VRK::BaseData {};
+    const VRK::BaseData& stranger = Unregistered();
+    EXPECT_THROW(farm.getDataCloneFactory()->CreateObject(&stranger), VRK::FactoryError);
+}
