@@ -10,8 +10,14 @@ thread_local Task* currentTask = nullptr;
 
 Task::Task() = default;
 
-Task::~Task() = default;
+// A cancelled run takes the processes it left running down with it.
+Task::~Task()
+{
+    if (isCancelled())
+        worker_.cancel();
+}
 
+// Only sets a flag: a signal handler may call it.
 void Task::cancel() { cancelled_.store(true); }
 
 bool Task::isCancelled() const { return cancelled_.load(); }

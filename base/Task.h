@@ -2,6 +2,7 @@
 #define VRK_BASE_TASK_H
 
 #include "base/Cancellable.h"
+#include "base/TaskWorker.h"
 
 #include <atomic>
 
@@ -18,6 +19,8 @@ public:
     bool isCancelled() const override;
     // Throws TaskCancellation when the task was cancelled.
     void checkCancellation() const;
+    // Owns the processes the run leaves running; cancelling the task cancels it.
+    TaskWorker* getWorker() { return &worker_; }
 
     static Task* getCurrentTask();
 
@@ -35,6 +38,7 @@ public:
 
 private:
     std::atomic<bool> cancelled_{false};
+    TaskWorker worker_;
 };
 
 } // namespace VRK
