@@ -1,3 +1,4 @@
+#include "apps/vrk/DescribeCommand.h"
 #include "apps/vrk/HostSession.h"
 #include "apps/vrk/ListCommand.h"
 
@@ -47,6 +48,11 @@ int main(int argc, char** argv)
     list->add_option("what", listWhat, "functors, types, readers, writers or converters")
         ->check(CLI::IsMember({"functors", "types", "readers", "writers", "converters"}));
     commands.push_back({list, [&] { return ListCommand::run(listWhat, std::cout); }});
+
+    std::string describeName;
+    CLI::App* describe = app.add_subcommand("describe", "Show the ports of a functor");
+    describe->add_option("name", describeName, "Registered name or alias of the functor")->required();
+    commands.push_back({describe, [&] { return DescribeCommand::run(describeName, std::cout, std::cerr); }});
 
     try {
         app.parse(argc, argv);

@@ -1,0 +1,82 @@
+#include "apps/vrk/DescribeCommand.h"
+
+#include "base/BaseType.h"
+#include "base/ContainerFunctor.h"
+#include "base/DataWriter.h"
+#include "base/FactoryFarmManager.h"
+
+#include <sstream>
+
+namespace {
+
+std::string typeName(const VRK::DataHolder& port)
+{
+    return port.getType() ? port.getType()->getName() : std::string("(untyped)");
+}
+
+// The editor's present value in script syntax, when the type has a writer.
+std::string defaultValue(const VRK::InputPort& port)
+{
+    auto writers = VRK::FactoryFarmManager::Instance().getDataWriterFactory();
+    if (!port.hasDataEditor() || !port.getType() || !writers->isRegistered(port.getType()->getName()))
+        return std::string();
+    std::unique_ptr<VRK::DataWriter> writer(writers->create(port.getType()->getName(), port.getDataEditor()));
+    std::ostringstream value;
+    value.precision(17);
+    writer->write(value, 0);
+    return value.str();
+}
+
+void describeInput(const VRK::Functor& functor, const VRK::InputPort& port, const char* direction,
+                   std::ostream& out)
+{
+    out << "  " << direction << ' ' << port.getName() << " : " << typeName(port);
+    if (port.isOptional())
+        out << "  optional, default " << defaultValue(port);
+    else if (port.hasDataEditor())
+        out << "  required";
+    else
+        out << "  bound only";
+    if (port.isFeedback())
+        out << ", feedback";
+    for (const auto& alias : functor.getInputPortAliases(port.getName()))
+        out << "  alias " << alias;
+    out << "\n      \"" << port.getDescription() << "\"\n";
+}
+
+void describeOutput(const VRK::DataHolder& port, const char* direction, std::ostream& out)
+{
+    out << "  " << direction << ' ' << port.getName() << " : " << typeName(port) << "\n      \""
+        << port.getDescription() << "\"\n";
+}
+
+} // namespace
+
+int DescribeCommand::run(const std::string& name, std::ostream& out, std::ostream& err)
+{
+    auto factory = VRK::FactoryFarmManager::Instance().getFunctorFactory();
+    if (!factory->isRegistered(name)) {
+        err << "vrk: error: no functor is registered as \"" << name << "\".\n";
+        return 2;
+    }
+    for (const auto& entry : factory->getEntries())
+        if (entry.key == factory->resolve(name)) {
+            out << entry.key << "  (group \"" << entry.group << "\")";
+            for (const auto& alias : entry.aliases)
+                out << "  alias " << alias;
+            out << '\n';
+        }
+    auto functor = factory->create(name);
+    out << "  \"" << functor->getDescription() << "\"\n";
+    for (const auto& port : functor->getInputPorts())
+        describeInput(*functor, *port, "input", out);
+    for (const auto& port : functor->getOutputPorts())
+        describeOutput(*port, "output", out);
+    if (auto* container = dynamic_cast<VRK::ContainerFunctor*>(functor.get())) {
+        for (const auto& port : container->getInternalOutputPorts())
+            describeOutput(*port, "internal output", out);
+        for (const auto& port : container->getInternalInputPorts())
+            describeInput(*functor, *port, "internal input", out);
+    }
+    return 0;
+}
