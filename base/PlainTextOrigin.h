@@ -1,0 +1,30 @@
+#ifndef VRK_BASE_PLAINTEXTORIGIN_H
+#define VRK_BASE_PLAINTEXTORIGIN_H
+
+#include "base/ParseError.h"
+
+namespace VRK {
+
+// The plain scanner walks a bare `const char*` that knows nothing of where its text
+// began, so a parse error on it could not say where it happened. A PlainTextOrigin
+// marks, for the calling thread and for its own lifetime, the first character of the
+// text being read; positions are then counted from it as line 1, column 1, with an
+// empty file name. The outermost mark wins: a nested read of part of the same text
+// keeps counting from the start of the whole text.
+class PlainTextOrigin {
+public:
+    explicit PlainTextOrigin(const char* start);
+    ~PlainTextOrigin();
+    PlainTextOrigin(const PlainTextOrigin&) = delete;
+    PlainTextOrigin& operator=(const PlainTextOrigin&) = delete;
+
+    // The position of `where` in the marked text; a mark must be active.
+    static ParseError::Position positionOf(const char* where);
+
+private:
+    bool marked_;
+};
+
+} // namespace VRK
+
+#endif
