@@ -1,0 +1,15 @@
+#ifndef PRIM_BOOLDATA_H
+#define PRIM_BOOLDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/BoolEditor.h"
+#include "plugins/prim/BoolViewer.h"
+
+namespace Prim {
+
+// Bool values.
+using BoolData = VRK::PrimData<bool, BoolViewer, BoolEditor>;
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,26 @@
+#include "plugins/prim/BoolEditor.h"
+
+#include "plugins/prim/BoolType.h"
+#include "plugins/prim/DataCast.h"
+
+namespace Prim {
+
+BoolEditor::BoolEditor()
+    : VRK::DataEditor("BoolEditor", "Editor for Bool values", BoolType::getInstance()), value_(false)
+{
+}
+
+BoolEditor::~BoolEditor() = default;
+
+void BoolEditor::toStream(std::ostream& out, int) const { out << (value_ ? "Yes" : "No"); }
+
+void BoolEditor::packData() { setDataPtr(std::make_shared<const BoolData>(value_)); }
+
+void BoolEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<BoolData>(data).getValue(); }
+
+void BoolEditor::setBool(bool value)
+{
+    value_ = value;
+}
+
+} // namespace Prim

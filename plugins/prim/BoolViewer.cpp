@@ -1,0 +1,14 @@
+#include "plugins/prim/BoolViewer.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/BoolType.h"
+
+namespace Prim {
+
+BoolViewer::BoolViewer() : VRK::DataViewer("BoolViewer", "Viewer for Bool values", BoolType::getInstance()) {}
+
+BoolViewer::~BoolViewer() = default;
+
+bool BoolViewer::getBool() const { return DataCast::as<BoolData>(getData()).getValue(); }
+
+} // namespace Prim

@@ -1,0 +1,21 @@
+#ifndef PRIM_BOOLVIEWER_H
+#define PRIM_BOOLVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects Bool values.
+class BoolViewer : public VRK::DataViewer {
+public:
+    BoolViewer();
+    BoolViewer(const BoolViewer&) = default;
+    BoolViewer& operator=(const BoolViewer&) = default;
+    ~BoolViewer() override;
+
+    bool getBool() const;
+};
+
+} // namespace Prim
+
+#endif

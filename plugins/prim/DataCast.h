@@ -1,0 +1,25 @@
+#ifndef PRIM_DATACAST_H
+#define PRIM_DATACAST_H
+
+#include "base/BaseData.h"
+
+#include <cassert>
+
+namespace Prim {
+
+// Editors and viewers only ever meet data of their own type; anything else is a
+// programming error of whoever handed it over.
+class DataCast {
+public:
+    template <class DataT>
+    static const DataT& as(const VRK::BaseData& data)
+    {
+        const DataT* typed = dynamic_cast<const DataT*>(&data);
+        assert(typed != 0 && "typed != 0");
+        return *typed;
+    }
+};
+
+} // namespace Prim
+
+#endif

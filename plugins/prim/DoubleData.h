@@ -1,0 +1,15 @@
+#ifndef PRIM_DOUBLEDATA_H
+#define PRIM_DOUBLEDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/DoubleEditor.h"
+#include "plugins/prim/DoubleViewer.h"
+
+namespace Prim {
+
+// Real values; integers carry one too, so that they can be read as reals.
+using DoubleData = VRK::PrimData<double, DoubleViewer, DoubleEditor>;
+
+} // namespace Prim
+
+#endif

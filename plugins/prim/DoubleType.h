@@ -1,0 +1,17 @@
+#ifndef PRIM_DOUBLETYPE_H
+#define PRIM_DOUBLETYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/DoubleData.h"
+
+namespace Prim {
+
+class DoubleType : public VRK::TypeShim<DoubleType, DoubleData> {
+public:
+    DoubleType();
+    ~DoubleType() override;
+};
+
+} // namespace Prim
+
+#endif

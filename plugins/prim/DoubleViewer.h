@@ -1,0 +1,21 @@
+#ifndef PRIM_DOUBLEVIEWER_H
+#define PRIM_DOUBLEVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects real values.
+class DoubleViewer : public VRK::DataViewer {
+public:
+    DoubleViewer();
+    DoubleViewer(const DoubleViewer&) = default;
+    DoubleViewer& operator=(const DoubleViewer&) = default;
+    ~DoubleViewer() override;
+
+    double getDouble() const;
+};
+
+} // namespace Prim
+
+#endif

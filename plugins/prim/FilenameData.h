@@ -1,0 +1,20 @@
+#ifndef PRIM_FILENAMEDATA_H
+#define PRIM_FILENAMEDATA_H
+
+#include "base/BaseData.h"
+#include "plugins/prim/CompoundFilename.h"
+
+namespace Prim {
+
+// What every data class of a filename type offers, whatever its editor and viewer:
+// folders here, kinds of files in other plugins.
+class FilenameData : public virtual VRK::BaseData {
+public:
+    ~FilenameData() override;
+
+    virtual const CompoundFilename& getCompoundFilename() const = 0;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,147 @@
+#include "plugins/prim/FilenameEditor.h"
+
+#include "base/ExceptionUtils.h"
+#include "base/Functor.h"
+#include "base/IllegalDataException.h"
+#include "base/InputPort.h"
+#include "base/Logger.h"
+#include "base/Script.h"
+#include "base/UndefinedNodeException.h"
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/FilenameData.h"
+#include "plugins/prim/PathEditor.h"
+#include "plugins/prim/WorkdirData.h"
+
+#include <boost/filesystem/operations.hpp>
+
+#include <cassert>
+#include <sstream>
+
+namespace Prim {
+
+FilenameEditor::FilenameEditor(const std::string& name, const std::string& description,
+                               const std::shared_ptr<VRK::BaseType>& type)
+    : VRK::DataEditor(name, description, type)
+{
+}
+
+FilenameEditor::~FilenameEditor() = default;
+
+void FilenameEditor::toStream(std::ostream& out, int) const
+{
+    out << '"' << getFilename() << '"';
+}
+
+void FilenameEditor::unpackData(const VRK::BaseData& data)
+{
+    filename_ = DataCast::as<FilenameData>(data).getCompoundFilename();
+}
+
+void FilenameEditor::prepare()
+{
+    VRK::DataEditor::prepare();
+    const bool named = !filename_.getFullFilename().empty()
+                       || !filename_.getRelativeFilename().empty();
+    if (updateWorkdir() && named)
+        filename_.updateFilenamesIfNecessary(workdir_);
+}
+
+std::string FilenameEditor::getAlias() const { return "filename"; }
+
+std::string FilenameEditor::getDefaultFilename() const { return ""; }
+
+bool FilenameEditor::isExtensionAccepted(const std::string&) const { return true; }
+
+void FilenameEditor::setFilename(std::string filename, bool delay)
+{
+    if (filename.empty())
+        VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The " + getAlias() + " \""
+                                                              + filename + "\" is not valid.");
+    filename_.setFilename(PathEditor::normalisePath(filename), delay ? Workdir() : workdir_,
+                          delay);
+}
+
+std::string FilenameEditor::getFilename() const
+{
+    const path& relative = filename_.getRelativeFilename();
+    return (relative.empty() ? filename_.getFullFilename() : relative).string();
+}
+
+std::string FilenameEditor::getRelativeFilename() const
+{
+    return filename_.getRelativeFilename().string();
+}
+
+std::string FilenameEditor::getFullFilename() const
+{
+    return filename_.getFullFilename().string();
+}
+
+std::string FilenameEditor::getWorkdir() const
+{
+    if (!workdir_)
+        return "";
+    if (workdir_->empty())
+        return " The work directory is unknown !";
+    return workdir_->string();
+}
+
+bool FilenameEditor::updateWorkdir()
+{
+    try {
+        findWorkdir();
+        return true;
+    } catch (const VRK::Exception& exception) {
+        VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
+        if (logger->isLogging(VRK::debug)) {
+            std::ostringstream line;
+            line.precision(20);
+            line << getName() << ": Exception ignored trying to retrieve workdir:"
+                 << exception.getMessage();
+            logger->log(VRK::debug, line.str(), false);
+        }
+        return false;
+    }
+}
+
+// No owner, or an owner without a "workdir" input (a Workdir's own folder, a folder
+// carrier), means that no work directory applies.
+void FilenameEditor::findWorkdir()
+{
+    VRK::Functor* owner = getOwner();
+    VRK::InputPort* workdirPort = owner ? owner->getInputPort("workdir") : nullptr;
+    if (!workdirPort || !workdirPort->isBound()) {
+        workdir_ = boost::none;
+        return;
+    }
+    runWorkdirFunctor(workdirPort);
+    if (!workdirPort->hasData()) {
+        workdir_ = path();
+        return;
+    }
+    const path& workdir = DataCast::as<WorkdirData>(workdirPort->getData()).getValue();
+    workdir_ = workdir.empty() ? workdir : boost::filesystem::system_complete(workdir);
+}
+
+// Makes the Workdir functor that feeds `workdirPort` produce its directory, unless it
+// already has, and brings the directory into the port.
+void FilenameEditor::runWorkdirFunctor(VRK::InputPort* workdirPort)
+{
+    assert(workdirPort != 0 && "workdirPort != 0");
+    VRK::DataHolder* peer = workdirPort->getPeer();
+    if (!peer)
+        return;
+    VRK::Functor* functor = peer->getOwner();
+    if (!functor)
+        VRK::ExceptionUtils::raise<VRK::UndefinedNodeException>(
+            "The \"workdir\" holder is not part of a functor.");
+    VRK::Script* script = functor->getScript();
+    if (!script)
+        VRK::ExceptionUtils::raise<VRK::UndefinedNodeException>(
+            "The \"Workdir\" functor is not part of a script.");
+    if (!peer->hasData())
+        script->runLight(functor);
+    workdirPort->pullData();
+}
+
+} // namespace Prim

@@ -1,0 +1,25 @@
+#ifndef PRIM_FILENAMEVIEWER_H
+#define PRIM_FILENAMEVIEWER_H
+
+#include "base/DataViewer.h"
+#include "plugins/prim/CompoundFilename.h"
+
+namespace Prim {
+
+// Inspects filename data of any filename type.
+class FilenameViewer : public VRK::DataViewer {
+public:
+    FilenameViewer(const FilenameViewer&) = default;
+    FilenameViewer& operator=(const FilenameViewer&) = default;
+    ~FilenameViewer() override;
+
+    const CompoundFilename& getFilename() const;
+
+protected:
+    FilenameViewer(const std::string& name, const std::string& description,
+                   const std::shared_ptr<VRK::BaseType>& type);
+};
+
+} // namespace Prim
+
+#endif

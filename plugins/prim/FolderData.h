@@ -1,0 +1,26 @@
+#ifndef PRIM_FOLDERDATA_H
+#define PRIM_FOLDERDATA_H
+
+#include "base/Data.h"
+#include "plugins/prim/CompoundFilename.h"
+#include "plugins/prim/FilenameData.h"
+#include "plugins/prim/FolderEditor.h"
+#include "plugins/prim/FolderViewer.h"
+
+namespace Prim {
+
+// A folder, held as a compound filename.
+class FolderData : public VRK::Data<CompoundFilename, FolderViewer, FolderEditor>,
+                   public FilenameData {
+public:
+    FolderData() = default;
+    explicit FolderData(const CompoundFilename& folder);
+    FolderData(const FolderData&) = default;
+    ~FolderData() override;
+
+    const CompoundFilename& getCompoundFilename() const override { return getValue(); }
+};
+
+} // namespace Prim
+
+#endif

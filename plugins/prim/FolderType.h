@@ -1,0 +1,17 @@
+#ifndef PRIM_FOLDERTYPE_H
+#define PRIM_FOLDERTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/FolderData.h"
+
+namespace Prim {
+
+class FolderType : public VRK::TypeShim<FolderType, FolderData> {
+public:
+    FolderType();
+    ~FolderType() override;
+};
+
+} // namespace Prim
+
+#endif

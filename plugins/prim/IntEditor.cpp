@@ -1,0 +1,24 @@
+#include "plugins/prim/IntEditor.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/IntType.h"
+
+namespace Prim {
+
+IntEditor::IntEditor()
+    : VRK::DataEditor("IntEditor", "Editor for Int values", IntType::getInstance()), value_(0)
+{
+}
+
+IntEditor::~IntEditor() = default;
+
+void IntEditor::packData() { setDataPtr(std::make_shared<const IntData>(value_)); }
+
+void IntEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<IntData>(data).getValue(); }
+
+void IntEditor::setInt(int value)
+{
+    value_ = value;
+}
+
+} // namespace Prim

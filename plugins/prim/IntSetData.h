@@ -1,0 +1,17 @@
+#ifndef PRIM_INTSETDATA_H
+#define PRIM_INTSETDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/IntSetEditor.h"
+#include "plugins/prim/IntSetViewer.h"
+
+#include <set>
+
+namespace Prim {
+
+// Ordered sets of integers.
+using IntSetData = VRK::PrimData<std::set<int>, IntSetViewer, IntSetEditor>;
+
+} // namespace Prim
+
+#endif

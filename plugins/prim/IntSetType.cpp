@@ -1,0 +1,9 @@
+#include "plugins/prim/IntSetType.h"
+
+namespace Prim {
+
+IntSetType::IntSetType() : VRK::TypeShim<IntSetType, IntSetData>("IntSet", "Type of integer sets") {}
+
+IntSetType::~IntSetType() = default;
+
+} // namespace Prim

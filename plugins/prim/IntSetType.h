@@ -1,0 +1,17 @@
+#ifndef PRIM_INTSETTYPE_H
+#define PRIM_INTSETTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/IntSetData.h"
+
+namespace Prim {
+
+class IntSetType : public VRK::TypeShim<IntSetType, IntSetData> {
+public:
+    IntSetType();
+    ~IntSetType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef PRIM_INTSETVIEWER_H
+#define PRIM_INTSETVIEWER_H
+
+#include "base/DataViewer.h"
+
+#include <cstddef>
+
+namespace Prim {
+
+// Inspects sets of integers.
+class IntSetViewer : public VRK::DataViewer {
+public:
+    IntSetViewer();
+    IntSetViewer(const IntSetViewer&) = default;
+    IntSetViewer& operator=(const IntSetViewer&) = default;
+    ~IntSetViewer() override;
+
+    size_t getIntCount() const;
+    // The element at `index` in ascending order.
+    int getInt(size_t index) const;
+};
+
+} // namespace Prim
+
+#endif

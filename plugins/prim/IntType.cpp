@@ -1,0 +1,9 @@
+#include "plugins/prim/IntType.h"
+
+namespace Prim {
+
+IntType::IntType() : VRK::TypeShim<IntType, IntData>("Int", "Integer", VRK::Singleton<DoubleType>::getInstance()) {}
+
+IntType::~IntType() = default;
+
+} // namespace Prim

@@ -1,0 +1,18 @@
+#ifndef PRIM_INTTYPE_H
+#define PRIM_INTTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/IntData.h"
+#include "plugins/prim/DoubleType.h"
+
+namespace Prim {
+
+class IntType : public VRK::TypeShim<IntType, IntData> {
+public:
+    IntType();
+    ~IntType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,14 @@
+#include "plugins/prim/IntViewer.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/IntType.h"
+
+namespace Prim {
+
+IntViewer::IntViewer() : VRK::DataViewer("IntViewer", "Viewer for Int values", IntType::getInstance()) {}
+
+IntViewer::~IntViewer() = default;
+
+int IntViewer::getInt() const { return DataCast::as<IntData>(getData()).getValue(); }
+
+} // namespace Prim

@@ -1,0 +1,21 @@
+#ifndef PRIM_INTVIEWER_H
+#define PRIM_INTVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects integer values, of any of the integer types.
+class IntViewer : public VRK::DataViewer {
+public:
+    IntViewer();
+    IntViewer(const IntViewer&) = default;
+    IntViewer& operator=(const IntViewer&) = default;
+    ~IntViewer() override;
+
+    int getInt() const;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef PRIM_LOGTAGDATA_H
+#define PRIM_LOGTAGDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/LogTagEditor.h"
+#include "plugins/prim/LogTagViewer.h"
+
+#include "base/LogTag.h"
+
+namespace Prim {
+
+// Log levels.
+using LogTagData = VRK::PrimData<VRK::LogTag, LogTagViewer, LogTagEditor>;
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,31 @@
+#include "plugins/prim/LogTagEditor.h"
+
+#include "base/LogTagInfo.h"
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/LogTagType.h"
+
+namespace Prim {
+
+LogTagEditor::LogTagEditor()
+    : VRK::DataEditor("LogTagEditor", "Editor for LogTag values", LogTagType::getInstance()),
+      value_(VRK::trace)
+{
+}
+
+LogTagEditor::~LogTagEditor() = default;
+
+void LogTagEditor::toStream(std::ostream& out, int) const
+{
+    out << VRK::LogTagInfo::getName(value_);
+}
+
+void LogTagEditor::packData() { setDataPtr(std::make_shared<const LogTagData>(value_)); }
+
+void LogTagEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<LogTagData>(data).getValue();
+}
+
+void LogTagEditor::setLogTag(VRK::LogTag tag) { value_ = tag; }
+
+} // namespace Prim

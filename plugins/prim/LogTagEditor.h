@@ -1,0 +1,30 @@
+#ifndef PRIM_LOGTAGEDITOR_H
+#define PRIM_LOGTAGEDITOR_H
+
+#include "base/DataEditor.h"
+#include "base/LogTag.h"
+
+namespace Prim {
+
+// Builds log levels; prints them by their keyword (".trace").
+class LogTagEditor : public VRK::DataEditor {
+public:
+    LogTagEditor();
+    LogTagEditor(const LogTagEditor&) = default;
+    LogTagEditor& operator=(const LogTagEditor&) = default;
+    ~LogTagEditor() override;
+
+    void toStream(std::ostream& out, int indent) const override;
+    void packData() override;
+    void unpackData(const VRK::BaseData& data) override;
+
+    void setLogTag(VRK::LogTag tag);
+    VRK::LogTag getLogTag() const { return value_; }
+
+private:
+    VRK::LogTag value_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef PRIM_LOGTAGTYPE_H
+#define PRIM_LOGTAGTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/LogTagData.h"
+
+namespace Prim {
+
+class LogTagType : public VRK::TypeShim<LogTagType, LogTagData> {
+public:
+    LogTagType();
+    ~LogTagType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/MultiplexerType.h"
+
+namespace Prim {
+
+MultiplexerType::MultiplexerType() : VRK::BaseType("Multiplexer", "Functors with multiplexing capabilities") {}
+
+MultiplexerType::~MultiplexerType() = default;
+
+} // namespace Prim

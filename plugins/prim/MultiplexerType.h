@@ -1,0 +1,17 @@
+#ifndef PRIM_MULTIPLEXERTYPE_H
+#define PRIM_MULTIPLEXERTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class MultiplexerType : public VRK::BaseType {
+public:
+    MultiplexerType();
+    ~MultiplexerType() override;
+};
+
+} // namespace Prim
+
+#endif

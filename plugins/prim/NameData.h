@@ -1,0 +1,21 @@
+#ifndef PRIM_NAMEDATA_H
+#define PRIM_NAMEDATA_H
+
+#include "plugins/prim/NameEditor.h"
+#include "plugins/prim/StringData.h"
+
+namespace Prim {
+
+// A name is a string, so a name feeds any String input unchanged.
+class NameData : public StringData {
+public:
+    using EditorType = NameEditor;
+
+    explicit NameData(const std::string& name = "name");
+    NameData(const NameData&) = default;
+    ~NameData() override;
+};
+
+} // namespace Prim
+
+#endif

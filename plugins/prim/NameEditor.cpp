@@ -1,0 +1,39 @@
+#include "plugins/prim/NameEditor.h"
+
+#include "base/ExceptionUtils.h"
+#include "base/IllegalDataException.h"
+#include "base/NameUtils.h"
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/NameType.h"
+
+#include <utility>
+
+namespace Prim {
+
+NameEditor::NameEditor()
+    : VRK::BaseNameEditor("NameEditor", "Editor used to edit/create names.",
+                          NameType::getInstance()),
+      value_("name")
+{
+}
+
+NameEditor::~NameEditor() = default;
+
+void NameEditor::packData() { setDataPtr(std::make_shared<const NameData>(value_)); }
+
+void NameEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<NameData>(data).getValue();
+}
+
+void NameEditor::setName(std::string name)
+{
+    if (!VRK::NameUtils::isValidName(name))
+        VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The name \"" + name
+                                                              + "\" is not valid.");
+    value_ = std::move(name);
+}
+
+std::string NameEditor::getName() const { return value_; }
+
+} // namespace Prim

@@ -1,0 +1,18 @@
+#ifndef PRIM_NAMETYPE_H
+#define PRIM_NAMETYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/NameData.h"
+#include "plugins/prim/StringType.h"
+
+namespace Prim {
+
+class NameType : public VRK::TypeShim<NameType, NameData> {
+public:
+    NameType();
+    ~NameType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,14 @@
+#include "plugins/prim/NameViewer.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/NameType.h"
+
+namespace Prim {
+
+NameViewer::NameViewer() : VRK::DataViewer("NameViewer", "Viewer for names", NameType::getInstance()) {}
+
+NameViewer::~NameViewer() = default;
+
+const std::string& NameViewer::getName() const { return DataCast::as<NameData>(getData()).getValue(); }
+
+} // namespace Prim

@@ -1,0 +1,24 @@
+#ifndef PRIM_NAMEVIEWER_H
+#define PRIM_NAMEVIEWER_H
+
+#include "base/DataViewer.h"
+
+#include <string>
+
+namespace Prim {
+
+// Inspects names.
+class NameViewer : public VRK::DataViewer {
+public:
+    NameViewer();
+    NameViewer(const NameViewer&) = default;
+    NameViewer& operator=(const NameViewer&) = default;
+    ~NameViewer() override;
+
+    // The held name; the viewer's own name stays reachable as Descriptable::getName.
+    const std::string& getName() const;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/NamedValueRegistratorType.h"
+
+namespace Prim {
+
+NamedValueRegistratorType::NamedValueRegistratorType() : VRK::BaseType("NamedValueRegistrator", "Functors with named value registration capabilities") {}
+
+NamedValueRegistratorType::~NamedValueRegistratorType() = default;
+
+} // namespace Prim

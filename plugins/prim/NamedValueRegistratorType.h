@@ -1,0 +1,17 @@
+#ifndef PRIM_NAMEDVALUEREGISTRATORTYPE_H
+#define PRIM_NAMEDVALUEREGISTRATORTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class NamedValueRegistratorType : public VRK::BaseType {
+public:
+    NamedValueRegistratorType();
+    ~NamedValueRegistratorType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,28 @@
+#ifndef PRIM_NONNEGATIVEINTEDITOR_H
+#define PRIM_NONNEGATIVEINTEDITOR_H
+
+#include "base/DataEditor.h"
+
+namespace Prim {
+
+// Builds integer values of 0 or more.
+class NonNegativeIntEditor : public VRK::DataEditor {
+public:
+    NonNegativeIntEditor();
+    NonNegativeIntEditor(const NonNegativeIntEditor&) = default;
+    NonNegativeIntEditor& operator=(const NonNegativeIntEditor&) = default;
+    ~NonNegativeIntEditor() override;
+
+    void packData() override;
+    void unpackData(const VRK::BaseData& data) override;
+
+    void setNonNegativeInt(int value);
+    int getNonNegativeInt() const { return value_; }
+
+private:
+    int value_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/NonNegativeIntType.h"
+
+namespace Prim {
+
+NonNegativeIntType::NonNegativeIntType() : VRK::TypeShim<NonNegativeIntType, NonNegativeIntData>("NonNegativeInt", "Non-negative integer", VRK::Singleton<PositiveIntType>::getInstance()) {}
+
+NonNegativeIntType::~NonNegativeIntType() = default;
+
+} // namespace Prim

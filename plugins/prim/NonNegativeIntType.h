@@ -1,0 +1,20 @@
+#ifndef PRIM_NONNEGATIVEINTTYPE_H
+#define PRIM_NONNEGATIVEINTTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/NonNegativeIntData.h"
+#include "plugins/prim/PositiveIntType.h"
+
+namespace Prim {
+
+// Deliberately under PositiveInt, not the other way round: the chain NonNegativeInt,
+// PositiveInt, Int, Double is what ports of older scripts were typed against.
+class NonNegativeIntType : public VRK::TypeShim<NonNegativeIntType, NonNegativeIntData> {
+public:
+    NonNegativeIntType();
+    ~NonNegativeIntType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef PRIM_NONNEGATIVEINTVIEWER_H
+#define PRIM_NONNEGATIVEINTVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects non-negative integer values.
+class NonNegativeIntViewer : public VRK::DataViewer {
+public:
+    NonNegativeIntViewer();
+    NonNegativeIntViewer(const NonNegativeIntViewer&) = default;
+    NonNegativeIntViewer& operator=(const NonNegativeIntViewer&) = default;
+    ~NonNegativeIntViewer() override;
+
+    int getNonNegativeInt() const;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef PRIM_NUMBEREDFOLDERREGISTRATORTYPE_H
+#define PRIM_NUMBEREDFOLDERREGISTRATORTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class NumberedFolderRegistratorType : public VRK::BaseType {
+public:
+    NumberedFolderRegistratorType();
+    ~NumberedFolderRegistratorType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/NumberedPathRegistratorType.h"
+
+namespace Prim {
+
+NumberedPathRegistratorType::NumberedPathRegistratorType() : VRK::BaseType("NumberedPathRegistrator", "Functors with numbered path registration capabilities") {}
+
+NumberedPathRegistratorType::~NumberedPathRegistratorType() = default;
+
+} // namespace Prim

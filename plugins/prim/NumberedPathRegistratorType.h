@@ -1,0 +1,17 @@
+#ifndef PRIM_NUMBEREDPATHREGISTRATORTYPE_H
+#define PRIM_NUMBEREDPATHREGISTRATORTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class NumberedPathRegistratorType : public VRK::BaseType {
+public:
+    NumberedPathRegistratorType();
+    ~NumberedPathRegistratorType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/NumberedStringRegistratorType.h"
+
+namespace Prim {
+
+NumberedStringRegistratorType::NumberedStringRegistratorType() : VRK::BaseType("NumberedStringRegistrator", "Functors with numbered string registration capabilities") {}
+
+NumberedStringRegistratorType::~NumberedStringRegistratorType() = default;
+
+} // namespace Prim

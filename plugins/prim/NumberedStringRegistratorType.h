@@ -1,0 +1,17 @@
+#ifndef PRIM_NUMBEREDSTRINGREGISTRATORTYPE_H
+#define PRIM_NUMBEREDSTRINGREGISTRATORTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class NumberedStringRegistratorType : public VRK::BaseType {
+public:
+    NumberedStringRegistratorType();
+    ~NumberedStringRegistratorType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,9 @@
+#include "plugins/prim/NumberedValueRegistratorType.h"
+
+namespace Prim {
+
+NumberedValueRegistratorType::NumberedValueRegistratorType() : VRK::BaseType("NumberedValueRegistrator", "Functors with numbered value registration capabilities") {}
+
+NumberedValueRegistratorType::~NumberedValueRegistratorType() = default;
+
+} // namespace Prim

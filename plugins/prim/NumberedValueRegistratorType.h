@@ -1,0 +1,17 @@
+#ifndef PRIM_NUMBEREDVALUEREGISTRATORTYPE_H
+#define PRIM_NUMBEREDVALUEREGISTRATORTYPE_H
+
+#include "base/BaseType.h"
+
+namespace Prim {
+
+// The type of functors that offer a capability; no data has it.
+class NumberedValueRegistratorType : public VRK::BaseType {
+public:
+    NumberedValueRegistratorType();
+    ~NumberedValueRegistratorType() override;
+};
+
+} // namespace Prim
+
+#endif

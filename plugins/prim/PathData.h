@@ -1,0 +1,17 @@
+#ifndef PRIM_PATHDATA_H
+#define PRIM_PATHDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/PathEditor.h"
+#include "plugins/prim/PathViewer.h"
+
+#include <boost/filesystem/path.hpp>
+
+namespace Prim {
+
+// File paths.
+using PathData = VRK::PrimData<boost::filesystem::path, PathViewer, PathEditor>;
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,50 @@
+#include "plugins/prim/PathEditor.h"
+
+#include "base/ExceptionUtils.h"
+#include "base/IllegalDataException.h"
+#include "base/PathUtils.h"
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/PathType.h"
+
+#include <algorithm>
+
+namespace Prim {
+
+PathEditor::PathEditor()
+    : VRK::DataEditor("PathEditor", "Editor for file paths", PathType::getInstance()),
+      value_("path")
+{
+}
+
+PathEditor::~PathEditor() = default;
+
+void PathEditor::packData() { setDataPtr(std::make_shared<const PathData>(value_)); }
+
+void PathEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<PathData>(data).getValue();
+}
+
+void PathEditor::setPath(std::string text)
+{
+    if (text.empty())
+        VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The path \"\" is not valid.");
+    value_ = normalisePath(text);
+}
+
+PathEditor::path PathEditor::getRelativePath() const
+{
+    return VRK::Boost::PathUtils::getRelativePath(value_);
+}
+
+std::string PathEditor::normalisePath(const std::string& text)
+{
+    static const std::string prefix = "//:";
+    std::string normalised = text.compare(0, prefix.size(), prefix) == 0
+                                 ? text.substr(prefix.size())
+                                 : text;
+    std::replace(normalised.begin(), normalised.end(), '\\', '/');
+    return normalised;
+}
+
+} // namespace Prim

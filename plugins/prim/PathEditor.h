@@ -1,0 +1,40 @@
+#ifndef PRIM_PATHEDITOR_H
+#define PRIM_PATHEDITOR_H
+
+#include "base/DataEditor.h"
+
+#include <boost/filesystem/path.hpp>
+
+#include <string>
+
+namespace Prim {
+
+// Builds file paths, stored in forward-slash form.
+class PathEditor : public VRK::DataEditor {
+public:
+    using path = boost::filesystem::path;
+
+    PathEditor();
+    PathEditor(const PathEditor&) = default;
+    PathEditor& operator=(const PathEditor&) = default;
+    ~PathEditor() override;
+
+    void packData() override;
+    void unpackData(const VRK::BaseData& data) override;
+
+    void setPath(std::string text);
+    const path& getPath() const { return value_; }
+    // The path relative to the current directory.
+    path getRelativePath() const;
+
+    // A path as a user may write it, in the form this system stores: a leading "//:"
+    // dropped, back slashes turned into forward slashes. Filenames use it too.
+    static std::string normalisePath(const std::string& text);
+
+private:
+    path value_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef PRIM_PATHTYPE_H
+#define PRIM_PATHTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/PathData.h"
+
+namespace Prim {
+
+class PathType : public VRK::TypeShim<PathType, PathData> {
+public:
+    PathType();
+    ~PathType() override;
+};
+
+} // namespace Prim
+
+#endif

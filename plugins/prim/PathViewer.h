@@ -1,0 +1,23 @@
+#ifndef PRIM_PATHVIEWER_H
+#define PRIM_PATHVIEWER_H
+
+#include "base/DataViewer.h"
+
+#include <boost/filesystem/path.hpp>
+
+namespace Prim {
+
+// Inspects file paths.
+class PathViewer : public VRK::DataViewer {
+public:
+    PathViewer();
+    PathViewer(const PathViewer&) = default;
+    PathViewer& operator=(const PathViewer&) = default;
+    ~PathViewer() override;
+
+    const boost::filesystem::path& getPath() const;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,18 @@
+#ifndef PRIM_PERCENTTYPE_H
+#define PRIM_PERCENTTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/PercentData.h"
+#include "plugins/prim/DoubleType.h"
+
+namespace Prim {
+
+class PercentType : public VRK::TypeShim<PercentType, PercentData> {
+public:
+    PercentType();
+    ~PercentType() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,14 @@
+#include "plugins/prim/PercentViewer.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/PercentType.h"
+
+namespace Prim {
+
+PercentViewer::PercentViewer() : VRK::DataViewer("PercentViewer", "Viewer for inspecting percent values", PercentType::getInstance()) {}
+
+PercentViewer::~PercentViewer() = default;
+
+double PercentViewer::getPercent() const { return DataCast::as<PercentData>(getData()).getValue(); }
+
+} // namespace Prim

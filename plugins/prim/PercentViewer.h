@@ -1,0 +1,21 @@
+#ifndef PRIM_PERCENTVIEWER_H
+#define PRIM_PERCENTVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects percentual values, as the fraction 0..1.
+class PercentViewer : public VRK::DataViewer {
+public:
+    PercentViewer();
+    PercentViewer(const PercentViewer&) = default;
+    PercentViewer& operator=(const PercentViewer&) = default;
+    ~PercentViewer() override;
+
+    double getPercent() const;
+};
+
+} // namespace Prim
+
+#endif

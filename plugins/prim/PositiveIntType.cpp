@@ -1,0 +1,9 @@
+#include "plugins/prim/PositiveIntType.h"
+
+namespace Prim {
+
+PositiveIntType::PositiveIntType() : VRK::TypeShim<PositiveIntType, PositiveIntData>("PositiveInt", "Positive integer", VRK::Singleton<IntType>::getInstance()) {}
+
+PositiveIntType::~PositiveIntType() = default;
+
+} // namespace Prim

@@ -1,0 +1,21 @@
+#ifndef PRIM_POSITIVEINTVIEWER_H
+#define PRIM_POSITIVEINTVIEWER_H
+
+#include "base/DataViewer.h"
+
+namespace Prim {
+
+// Inspects positive integer values.
+class PositiveIntViewer : public VRK::DataViewer {
+public:
+    PositiveIntViewer();
+    PositiveIntViewer(const PositiveIntViewer&) = default;
+    PositiveIntViewer& operator=(const PositiveIntViewer&) = default;
+    ~PositiveIntViewer() override;
+
+    int getPositiveInt() const;
+};
+
+} // namespace Prim
+
+#endif

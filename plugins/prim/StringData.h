@@ -1,0 +1,17 @@
+#ifndef PRIM_STRINGDATA_H
+#define PRIM_STRINGDATA_H
+
+#include "base/PrimData.h"
+#include "plugins/prim/StringEditor.h"
+#include "plugins/prim/StringViewer.h"
+
+#include <string>
+
+namespace Prim {
+
+// Byte strings.
+using StringData = VRK::PrimData<std::string, StringViewer, StringEditor>;
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,29 @@
+#ifndef PRIM_STRINGEDITOR_H
+#define PRIM_STRINGEDITOR_H
+
+#include "base/DataEditor.h"
+#include <string>
+
+namespace Prim {
+
+// Builds strings; any byte string is accepted.
+class StringEditor : public VRK::DataEditor {
+public:
+    StringEditor();
+    StringEditor(const StringEditor&) = default;
+    StringEditor& operator=(const StringEditor&) = default;
+    ~StringEditor() override;
+
+    void packData() override;
+    void unpackData(const VRK::BaseData& data) override;
+
+    void setString(std::string value);
+    const std::string& getString() const { return value_; }
+
+private:
+    std::string value_;
+};
+
+} // namespace Prim
+
+#endif

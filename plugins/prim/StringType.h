@@ -1,0 +1,17 @@
+#ifndef PRIM_STRINGTYPE_H
+#define PRIM_STRINGTYPE_H
+
+#include "base/TypeShim.h"
+#include "plugins/prim/StringData.h"
+
+namespace Prim {
+
+class StringType : public VRK::TypeShim<StringType, StringData> {
+public:
+    StringType();
+    ~StringType() override;
+};
+
+} // namespace Prim
+
+#endif

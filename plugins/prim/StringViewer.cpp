@@ -1,0 +1,14 @@
+#include "plugins/prim/StringViewer.h"
+
+#include "plugins/prim/DataCast.h"
+#include "plugins/prim/StringType.h"
+
+namespace Prim {
+
+StringViewer::StringViewer() : VRK::DataViewer("StringViewer", "Viewer for String values", StringType::getInstance()) {}
+
+StringViewer::~StringViewer() = default;
+
+const std::string& StringViewer::getString() const { return DataCast::as<StringData>(getData()).getValue(); }
+
+} // namespace Prim

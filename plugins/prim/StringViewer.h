@@ -1,0 +1,23 @@
+#ifndef PRIM_STRINGVIEWER_H
+#define PRIM_STRINGVIEWER_H
+
+#include "base/DataViewer.h"
+
+#include <string>
+
+namespace Prim {
+
+// Inspects strings, names included.
+class StringViewer : public VRK::DataViewer {
+public:
+    StringViewer();
+    StringViewer(const StringViewer&) = default;
+    StringViewer& operator=(const StringViewer&) = default;
+    ~StringViewer() override;
+
+    const std::string& getString() const;
+};
+
+} // namespace Prim
+
+#endif

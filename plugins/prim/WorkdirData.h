@@ -1,0 +1,27 @@
+#ifndef PRIM_WORKDIRDATA_H
+#define PRIM_WORKDIRDATA_H
+
+#include "base/Data.h"
+#include "base/NullType.h"
+
+#include <boost/filesystem/path.hpp>
+
+#include <string>
+
+namespace Prim {
+
+// The complete path of a work directory, as a Workdir container publishes it to the
+// functors inside. Produced by functors only: it has no editor and no viewer.
+class WorkdirData : public VRK::Data<boost::filesystem::path, VRK::NullType, VRK::NullType> {
+public:
+    WorkdirData() = default;
+    explicit WorkdirData(const boost::filesystem::path& workdir);
+    WorkdirData(const WorkdirData&) = default;
+    ~WorkdirData() override;
+
+    std::string getPathString() const { return getValue().string(); }
+};
+
+} // namespace Prim
+
+#endif
