@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_EXCEPTION_H
 #define VRK_BASE_EXCEPTION_H
 
+#include "base/ScriptPosition.h"
+
 #include <exception>
 #include <string>
 
@@ -17,8 +19,14 @@ public:
     const std::string& getMessage() const { return message_; }
     virtual const char* getName() const;
 
+    // Where in a script the error lies, when it is known (a bad binding, a cycle).
+    void setScriptPosition(const ScriptPosition& position) { position_ = position; }
+    bool hasScriptPosition() const { return position_.isKnown(); }
+    const ScriptPosition& getScriptPosition() const { return position_; }
+
 private:
     std::string message_;
+    ScriptPosition position_;
 };
 
 } // namespace VRK

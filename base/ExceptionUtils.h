@@ -18,6 +18,16 @@ public:
         throw exception;
     }
 
+    // The same for an error that lies at a known place in a script.
+    template <class E>
+    [[noreturn]] static void raiseAt(const ScriptPosition& position, const std::string& message)
+    {
+        E exception(message);
+        exception.setScriptPosition(position);
+        logThrow(exception);
+        throw exception;
+    }
+
     // The debug line that announces a thrown exception.
     static void logThrow(const Exception& exception);
 };

@@ -12,7 +12,7 @@ InputPort::InputPort(const std::string& name, const std::string& description,
 
 InputPort::InputPort(const InputPort& other)
     : SinglePeerDataHolder(other), linked_(other.linked_), optional_(other.optional_),
-      valueSet_(other.valueSet_)
+      valueSet_(other.valueSet_), position_(other.position_)
 {
     unbind();
     if (other.editor_)

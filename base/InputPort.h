@@ -2,6 +2,7 @@
 #define VRK_BASE_INPUTPORT_H
 
 #include "base/DataEditor.h"
+#include "base/ScriptPosition.h"
 #include "base/SinglePeerDataHolder.h"
 
 #include <memory>
@@ -36,6 +37,9 @@ public:
     // Whether the modeller gave this port a value (typed in or bound).
     bool isSet() const { return valueSet_ || isBound(); }
     void setValueSet(bool set) { valueSet_ = set; }
+    // Where the script bound the port or gave its value; unknown for ports no script set.
+    const ScriptPosition& getPosition() const { return position_; }
+    void setPosition(const ScriptPosition& position) { position_ = position; }
 
     // Fills the port for a run: the peer's data when bound, else the editor's value.
     void pullData() override;
@@ -46,6 +50,7 @@ private:
     bool linked_;
     bool optional_ = false;
     bool valueSet_ = false;
+    ScriptPosition position_;
 };
 
 } // namespace VRK

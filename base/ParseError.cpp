@@ -10,6 +10,7 @@ ParseError::ParseError(const std::string& message)
 ParseError::ParseError(const std::string& message, const Position& position)
     : Exception(message), position_(position), hasPosition_(true)
 {
+    setScriptPosition(ScriptPosition{position.file, position.line, position.column});
 }
 
 } // namespace VRK
