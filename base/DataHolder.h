@@ -2,6 +2,7 @@
 #define VRK_BASE_DATAHOLDER_H
 
 #include "base/BaseData.h"
+#include "base/Lockable.h"
 #include "base/Typeable.h"
 
 #include <bitset>
@@ -15,7 +16,7 @@ class Functor;
 using DataHolderFlag = unsigned int;
 
 // Holds at most one data object of its type: the base of ports, editors and viewers.
-class DataHolder : public Typeable {
+class DataHolder : public Typeable, public Lockable {
 public:
     DataHolder(const std::string& name, const std::string& description,
                const std::shared_ptr<BaseType>& type);

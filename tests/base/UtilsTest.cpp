@@ -103,3 +103,16 @@ TEST(Properties, KeepOrderAndHonourOverwrite)
     ASSERT_EQ(properties.getAll().size(), 2u);
     EXPECT_EQ(properties.getAll()[0].first, "comment");
 }
+
+#include "base/PropertyUtils.h"
+#include "base/Propertiable.h"
+
+TEST(PropertyUtils, MapsOldPropertyNamesOnly)
+{
+    std::string name = "untouched";
+    EXPECT_TRUE(VRK::PropertyUtils::findPropertyByAlias(name, "note"));
+    EXPECT_EQ(name, VRK::FUNCTOR_COMMENT_PROPERTY_NAME);
+    name = "untouched";
+    EXPECT_FALSE(VRK::PropertyUtils::findPropertyByAlias(name, "comment"));
+    EXPECT_EQ(name, "untouched");
+}

@@ -1,0 +1,34 @@
+#include "base/FunctorUpdates.h"
+
+#include "base/ContainerFunctor.h"
+
+#include <cassert>
+#include <cctype>
+
+namespace VRK {
+
+void updateFunctorAlias(const std::shared_ptr<Functor>& functor, int number)
+{
+    assert(functor != 0 && "functor != 0");
+    std::string alias = functor->getName();
+    if (!alias.empty())
+        alias[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(alias[0])));
+    functor->setAlias(alias + std::to_string(number));
+}
+
+void updateFunctorPortOwner(const std::shared_ptr<Functor>& functor)
+{
+    assert(functor != 0 && "functor != 0");
+    for (const auto& port : functor->getInputPorts())
+        port->setOwner(functor.get());
+    for (const auto& port : functor->getOutputPorts())
+        port->setOwner(functor.get());
+    if (auto* container = dynamic_cast<ContainerFunctor*>(functor.get())) {
+        for (const auto& port : container->getInternalInputPorts())
+            port->setOwner(functor.get());
+        for (const auto& port : container->getInternalOutputPorts())
+            port->setOwner(functor.get());
+    }
+}
+
+} // namespace VRK
