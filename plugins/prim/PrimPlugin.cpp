@@ -1,6 +1,7 @@
 #include "plugins/prim/PrimRegistrar.h"
 
 #include "base/Plugin.h"
+#include "base/ScannerTypes.h"
 #include "plugins/prim/BoolData.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/DoubleData.h"
@@ -27,6 +28,30 @@
 #include "plugins/prim/StringData.h"
 #include "plugins/prim/StringEditor.h"
 #include "plugins/prim/WorkdirData.h"
+#include "plugins/prim/BoolReader.h"
+#include "plugins/prim/DoubleReader.h"
+#include "plugins/prim/FolderReader.h"
+#include "plugins/prim/IntReader.h"
+#include "plugins/prim/IntSetReader.h"
+#include "plugins/prim/LogTagReader.h"
+#include "plugins/prim/NameReader.h"
+#include "plugins/prim/NonNegativeIntReader.h"
+#include "plugins/prim/PathReader.h"
+#include "plugins/prim/PercentReader.h"
+#include "plugins/prim/PositiveIntReader.h"
+#include "plugins/prim/StringReader.h"
+#include "plugins/prim/BoolWriter.h"
+#include "plugins/prim/DoubleWriter.h"
+#include "plugins/prim/FolderWriter.h"
+#include "plugins/prim/IntWriter.h"
+#include "plugins/prim/IntSetWriter.h"
+#include "plugins/prim/LogTagWriter.h"
+#include "plugins/prim/NameWriter.h"
+#include "plugins/prim/NonNegativeIntWriter.h"
+#include "plugins/prim/PathWriter.h"
+#include "plugins/prim/PercentWriter.h"
+#include "plugins/prim/PositiveIntWriter.h"
+#include "plugins/prim/StringWriter.h"
 
 namespace Prim {
 
@@ -71,9 +96,52 @@ void registerDataHolders(PrimRegistrar& registrar)
     registrar.registerDataHolder<StringEditor>();
 }
 
-void registerDataReaders(PrimRegistrar&) {}
+// The readers of one scanner, named by the type they read.
+template <class ScannerT>
+void registerDataReadersFor(PrimRegistrar& registrar, const std::string& scanner)
+{
+    const std::string algebra = "Map Algebra (Suppl.)";
+    const std::string control = "Control (Suppl.)";
+    registrar.registerDataReader<BoolReader<ScannerT>, ScannerT>("Bool", algebra, scanner);
+    registrar.registerDataReader<DoubleReader<ScannerT>, ScannerT>("Double", algebra, scanner);
+    registrar.registerDataReader<FolderReader<ScannerT>, ScannerT>("Folder", algebra, scanner);
+    registrar.registerDataReader<IntReader<ScannerT>, ScannerT>("Int", algebra, scanner);
+    registrar.registerDataReader<IntSetReader<ScannerT>, ScannerT>("IntSet", algebra, scanner);
+    registrar.registerDataReader<LogTagReader<ScannerT>, ScannerT>("LogTag", control, scanner);
+    registrar.registerDataReader<NameReader<ScannerT>, ScannerT>("Name", algebra, scanner);
+    registrar.registerDataReader<NonNegativeIntReader<ScannerT>, ScannerT>(
+        "NonNegativeInt", algebra, scanner);
+    registrar.registerDataReader<PathReader<ScannerT>, ScannerT>("Path", algebra, scanner);
+    registrar.registerDataReader<PercentReader<ScannerT>, ScannerT>("Percent", algebra, scanner);
+    registrar.registerDataReader<PositiveIntReader<ScannerT>, ScannerT>(
+        "PositiveInt", algebra, scanner);
+    registrar.registerDataReader<StringReader<ScannerT>, ScannerT>("String", algebra, scanner);
+}
 
-void registerDataWriters(PrimRegistrar&) {}
+// The image-expression reader registers itself with the expression language.
+void registerDataReaders(PrimRegistrar& registrar)
+{
+    registerDataReadersFor<VRK::ScriptScanner>(registrar, VRK::ScriptScannerName);
+    registerDataReadersFor<VRK::PlainScanner>(registrar, VRK::PlainScannerName);
+}
+
+void registerDataWriters(PrimRegistrar& registrar)
+{
+    const std::string algebra = "Map Algebra (Suppl.)";
+    const std::string control = "Control (Suppl.)";
+    registrar.registerDataWriter<BoolWriter>("Bool", algebra);
+    registrar.registerDataWriter<DoubleWriter>("Double", algebra);
+    registrar.registerDataWriter<FolderWriter>("Folder", algebra);
+    registrar.registerDataWriter<IntSetWriter>("IntSet", algebra);
+    registrar.registerDataWriter<IntWriter>("Int", algebra);
+    registrar.registerDataWriter<LogTagWriter>("LogTag", control);
+    registrar.registerDataWriter<NameWriter>("Name", algebra);
+    registrar.registerDataWriter<NonNegativeIntWriter>("NonNegativeInt", algebra);
+    registrar.registerDataWriter<PathWriter>("Path", algebra);
+    registrar.registerDataWriter<PercentWriter>("Percent", algebra);
+    registrar.registerDataWriter<PositiveIntWriter>("PositiveInt", algebra);
+    registrar.registerDataWriter<StringWriter>("String", algebra);
+}
 
 void registerDataConverters(PrimRegistrar&) {}
 

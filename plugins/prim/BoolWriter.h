@@ -1,0 +1,23 @@
+#ifndef PRIM_BOOLWRITER_H
+#define PRIM_BOOLWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class BoolEditor;
+
+// Prints ".yes" or ".no".
+class BoolWriter : public VRK::DataWriter {
+public:
+    explicit BoolWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const BoolEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,27 @@
+#ifndef PRIM_FILENAMEWRITER_H
+#define PRIM_FILENAMEWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class FilenameEditor;
+
+// Prints a filename between double quotes, in its form relative to the work directory.
+// Companion plugins write their own filename types with it.
+class FilenameWriter : public VRK::DataWriter {
+public:
+    explicit FilenameWriter(const VRK::DataEditor* dataEditor);
+    FilenameWriter(const FilenameWriter& other);
+    FilenameWriter& operator=(const FilenameWriter& other);
+    ~FilenameWriter() override;
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const FilenameEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,16 @@
+#ifndef PRIM_FOLDERWRITER_H
+#define PRIM_FOLDERWRITER_H
+
+#include "plugins/prim/FilenameWriter.h"
+
+namespace Prim {
+
+// Prints a folder as a filename is printed.
+class FolderWriter : public FilenameWriter {
+public:
+    explicit FolderWriter(const VRK::DataEditor* dataEditor);
+};
+
+} // namespace Prim
+
+#endif

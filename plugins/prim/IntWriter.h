@@ -1,0 +1,23 @@
+#ifndef PRIM_INTWRITER_H
+#define PRIM_INTWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class IntEditor;
+
+// Prints the integer in decimal.
+class IntWriter : public VRK::DataWriter {
+public:
+    explicit IntWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const IntEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

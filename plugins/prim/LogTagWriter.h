@@ -1,0 +1,23 @@
+#ifndef PRIM_LOGTAGWRITER_H
+#define PRIM_LOGTAGWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class LogTagEditor;
+
+// Prints the keyword of the level, such as ".info2".
+class LogTagWriter : public VRK::DataWriter {
+public:
+    explicit LogTagWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const LogTagEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef PRIM_PATHWRITER_H
+#define PRIM_PATHWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class PathEditor;
+
+// Prints the path, relative to the current folder, between double quotes.
+class PathWriter : public VRK::DataWriter {
+public:
+    explicit PathWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const PathEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef PRIM_POSITIVEINTWRITER_H
+#define PRIM_POSITIVEINTWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class PositiveIntEditor;
+
+// Prints the integer in decimal.
+class PositiveIntWriter : public VRK::DataWriter {
+public:
+    explicit PositiveIntWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const PositiveIntEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif

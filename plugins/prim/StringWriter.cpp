@@ -1,0 +1,21 @@
+#include "plugins/prim/StringWriter.h"
+
+#include "base/StringUtils.h"
+#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/StringEditor.h"
+
+namespace Prim {
+
+StringWriter::StringWriter(const VRK::DataEditor* dataEditor)
+    : VRK::DataWriter(dataEditor), editor_(&PrimEditorUtils::editorOf<StringEditor>(dataEditor))
+{
+}
+
+std::ostream& StringWriter::write(std::ostream& out, int) const
+{
+    std::string text = editor_->getString();
+    VRK::StringUtils::replaceAll(text, "\"", "\\\"");
+    return out << '"' << text << '"';
+}
+
+} // namespace Prim

@@ -1,0 +1,25 @@
+#ifndef PRIM_STRINGWRITER_H
+#define PRIM_STRINGWRITER_H
+
+#include "base/DataWriter.h"
+
+namespace Prim {
+
+class StringEditor;
+
+// Prints the string between double quotes, each quote in it preceded by a
+// backslash. Backslashes are printed as they are, so a string ending in a backslash
+// does not read back.
+class StringWriter : public VRK::DataWriter {
+public:
+    explicit StringWriter(const VRK::DataEditor* dataEditor);
+
+    std::ostream& write(std::ostream& out, int indent) const override;
+
+private:
+    const StringEditor* editor_;
+};
+
+} // namespace Prim
+
+#endif
