@@ -1,5 +1,11 @@
 #include "base/DataEditor.h"
 
+#include "base/BaseType.h"
+#include "base/DataWriter.h"
+#include "base/FactoryFarmManager.h"
+
+#include <memory>
+
 namespace VRK {
 
 DataEditor::DataEditor(const std::string& name, const std::string& description,
@@ -10,9 +16,18 @@ DataEditor::DataEditor(const std::string& name, const std::string& description,
 
 DataEditor::~DataEditor() = default;
 
+// The value in its script form when a writer of the type is registered; editors that
+// show their value otherwise override this.
 void DataEditor::toStream(std::ostream& out, int indent) const
 {
-    DataHolder::toStream(out, indent);
+    auto writers = FactoryFarmManager::Instance().getDataWriterFactory();
+    if (!getType() || !writers->isRegistered(getType()->getName())) {
+        DataHolder::toStream(out, indent);
+        return;
+    }
+    std::unique_ptr<DataWriter> writer(writers->create(getType()->getName(), this));
+    nestIndent(out, indent);
+    writer->write(out, 0);
 }
 
 } // namespace VRK

@@ -52,6 +52,22 @@
 #include "plugins/prim/PercentWriter.h"
 #include "plugins/prim/PositiveIntWriter.h"
 #include "plugins/prim/StringWriter.h"
+#include "plugins/prim/BoolFunctor.h"
+#include "plugins/prim/DoubleFunctor.h"
+#include "plugins/prim/ExitFunctor.h"
+#include "plugins/prim/FolderFunctor.h"
+#include "plugins/prim/FolderJunctionFunctor.h"
+#include "plugins/prim/IntFunctor.h"
+#include "plugins/prim/IntSetFunctor.h"
+#include "plugins/prim/LogTagFunctor.h"
+#include "plugins/prim/NameFunctor.h"
+#include "plugins/prim/NonNegativeIntFunctor.h"
+#include "plugins/prim/PathFunctor.h"
+#include "plugins/prim/PercentFunctor.h"
+#include "plugins/prim/PositiveIntFunctor.h"
+#include "plugins/prim/StringFunctor.h"
+#include "plugins/prim/StringJunctionFunctor.h"
+#include "plugins/prim/ValueJunctionFunctor.h"
 
 namespace Prim {
 
@@ -59,7 +75,28 @@ namespace {
 
 void registerHostServices(PrimRegistrar&) {}
 
-void registerFunctors(PrimRegistrar&) {}
+// Catalogue order: alphabetical, except "DoWhile" after "MuxValue" and "ValueJunction"
+// before "StringJunction".
+void registerFunctors(PrimRegistrar& registrar)
+{
+    registrar.registerFunctor<Bool>("Bool", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<Double>("Double", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<Exit>("Exit", "Control");
+    registrar.registerFunctor<Folder>("Folder", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<FolderJunction>("FolderJunction", "Control");
+    registrar.registerFunctor<Int>("Int", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<IntSet>("IntSet", "Map Algebra (Suppl.)", {"IntList"});
+    registrar.registerFunctor<LogTag>("LogTag", "Control (Suppl.)");
+    registrar.registerFunctor<Name>("Name", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<NonNegativeInt>("NonNegativeInt", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<Path>("Path", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<Percent>("Percent", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<PositiveInt>("PositiveInt", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<String>("String", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<ValueJunction>("ValueJunction", "Control",
+                                             {"JoinDouble", "JoinValue"});
+    registrar.registerFunctor<StringJunction>("StringJunction", "Control");
+}
 
 // The types come first, so that the host can list them before any script names one.
 void registerDataClasses(PrimRegistrar& registrar)

@@ -1,0 +1,39 @@
+#ifndef PRIM_DATACARRIERFUNCTOR_H
+#define PRIM_DATACARRIERFUNCTOR_H
+
+#include "base/Functor.h"
+
+#include <memory>
+#include <string>
+
+namespace Prim {
+
+// A constant typed in once and handed on through "object", so that one value can feed
+// many functors and be edited in one place.
+class DataCarrierFunctor : public VRK::Functor {
+public:
+    DataCarrierFunctor(const DataCarrierFunctor&) = default;
+    DataCarrierFunctor& operator=(const DataCarrierFunctor&) = default;
+    ~DataCarrierFunctor() override;
+
+    // The box text: the type's name, a line break and the constant, cut to 50 characters.
+    bool hasBanner() const override;
+    std::string getBanner() const override;
+    // Hands on the very data object of "constant": data is immutable, so no copy.
+    void runImpl() override;
+
+    static constexpr size_t BannerLength = 50;
+
+protected:
+    DataCarrierFunctor(const std::string& name, const std::string& description,
+                       const std::shared_ptr<VRK::BaseType>& type);
+
+    // Declares "constant" and "object", both of the carried type.
+    void addCarrierPorts(const std::shared_ptr<VRK::BaseType>& type,
+                         const std::string& constantDescription,
+                         const std::string& objectDescription);
+};
+
+} // namespace Prim
+
+#endif

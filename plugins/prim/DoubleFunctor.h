@@ -1,0 +1,19 @@
+#ifndef PRIM_DOUBLEFUNCTOR_H
+#define PRIM_DOUBLEFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a real number typed in once.
+class Double : public DataCarrierFunctor {
+public:
+    Double();
+    Double(const Double&) = default;
+    Double& operator=(const Double&) = default;
+    ~Double() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef PRIM_EXITFUNCTOR_H
+#define PRIM_EXITFUNCTOR_H
+
+#include "base/Functor.h"
+
+namespace Prim {
+
+// Stops the whole run on purpose.
+class Exit : public VRK::Functor {
+public:
+    Exit();
+    Exit(const Exit&) = default;
+    Exit& operator=(const Exit&) = default;
+    ~Exit() override;
+
+    [[noreturn]] void runImpl() override;
+};
+
+} // namespace Prim
+
+#endif

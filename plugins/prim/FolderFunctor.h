@@ -1,0 +1,21 @@
+#ifndef PRIM_FOLDERFUNCTOR_H
+#define PRIM_FOLDERFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+#include "plugins/prim/FilenameBanneredFunctor.h"
+
+namespace Prim {
+
+// Carries a folder, directory or ".zip" archive; its box shows the folder as the
+// filename-carrying functors show their files.
+class Folder : public FilenameBanneredFunctor<DataCarrierFunctor> {
+public:
+    Folder();
+    Folder(const Folder&) = default;
+    Folder& operator=(const Folder&) = default;
+    ~Folder() override;
+};
+
+} // namespace Prim
+
+#endif

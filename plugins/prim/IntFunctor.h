@@ -1,0 +1,19 @@
+#ifndef PRIM_INTFUNCTOR_H
+#define PRIM_INTFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries an integer typed in once.
+class Int : public DataCarrierFunctor {
+public:
+    Int();
+    Int(const Int&) = default;
+    Int& operator=(const Int&) = default;
+    ~Int() override;
+};
+
+} // namespace Prim
+
+#endif

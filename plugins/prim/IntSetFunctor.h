@@ -1,0 +1,19 @@
+#ifndef PRIM_INTSETFUNCTOR_H
+#define PRIM_INTSETFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a set of integers typed in once.
+class IntSet : public DataCarrierFunctor {
+public:
+    IntSet();
+    IntSet(const IntSet&) = default;
+    IntSet& operator=(const IntSet&) = default;
+    ~IntSet() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,19 @@
+#ifndef PRIM_LOGTAGFUNCTOR_H
+#define PRIM_LOGTAGFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a log level typed in once.
+class LogTag : public DataCarrierFunctor {
+public:
+    LogTag();
+    LogTag(const LogTag&) = default;
+    LogTag& operator=(const LogTag&) = default;
+    ~LogTag() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,19 @@
+#ifndef PRIM_PATHFUNCTOR_H
+#define PRIM_PATHFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a file path typed in once.
+class Path : public DataCarrierFunctor {
+public:
+    Path();
+    Path(const Path&) = default;
+    Path& operator=(const Path&) = default;
+    ~Path() override;
+};
+
+} // namespace Prim
+
+#endif

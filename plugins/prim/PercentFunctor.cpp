@@ -1,0 +1,15 @@
+#include "plugins/prim/PercentFunctor.h"
+
+#include "plugins/prim/PercentType.h"
+
+namespace Prim {
+
+Percent::Percent()
+    : DataCarrierFunctor("Percent", "Percent declarer", nullptr)
+{
+    addCarrierPorts(PercentType::getInstance(), "Percent constant", "Percent object");
+}
+
+Percent::~Percent() = default;
+
+} // namespace Prim

@@ -1,0 +1,19 @@
+#ifndef PRIM_PERCENTFUNCTOR_H
+#define PRIM_PERCENTFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a percentage typed in once.
+class Percent : public DataCarrierFunctor {
+public:
+    Percent();
+    Percent(const Percent&) = default;
+    Percent& operator=(const Percent&) = default;
+    ~Percent() override;
+};
+
+} // namespace Prim
+
+#endif

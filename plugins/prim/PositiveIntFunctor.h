@@ -1,0 +1,19 @@
+#ifndef PRIM_POSITIVEINTFUNCTOR_H
+#define PRIM_POSITIVEINTFUNCTOR_H
+
+#include "plugins/prim/DataCarrierFunctor.h"
+
+namespace Prim {
+
+// Carries a positive integer typed in once.
+class PositiveInt : public DataCarrierFunctor {
+public:
+    PositiveInt();
+    PositiveInt(const PositiveInt&) = default;
+    PositiveInt& operator=(const PositiveInt&) = default;
+    ~PositiveInt() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef PRIM_STRINGJUNCTIONFUNCTOR_H
+#define PRIM_STRINGJUNCTIONFUNCTOR_H
+
+#include "base/Functor.h"
+
+namespace Prim {
+
+// Joins two alternative pipelines that each may produce a string.
+class StringJunction : public VRK::Functor {
+public:
+    StringJunction();
+    StringJunction(const StringJunction&) = default;
+    StringJunction& operator=(const StringJunction&) = default;
+    ~StringJunction() override;
+
+    void runImpl() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef PRIM_VALUEJUNCTIONFUNCTOR_H
+#define PRIM_VALUEJUNCTIONFUNCTOR_H
+
+#include "base/Functor.h"
+
+namespace Prim {
+
+// Joins two alternative pipelines that each may produce a real value.
+class ValueJunction : public VRK::Functor {
+public:
+    ValueJunction();
+    ValueJunction(const ValueJunction&) = default;
+    ValueJunction& operator=(const ValueJunction&) = default;
+    ~ValueJunction() override;
+
+    void runImpl() override;
+};
+
+} // namespace Prim
+
+#endif
