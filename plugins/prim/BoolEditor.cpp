@@ -6,7 +6,8 @@
 namespace Prim {
 
 BoolEditor::BoolEditor()
-    : VRK::DataEditor("BoolEditor", "Editor for Bool values", BoolType::getInstance()), value_(false)
+    : VRK::DataEditor("BoolEditor", "Editor for Bool values", BoolType::getInstance()),
+      value_(false)
 {
 }
 
@@ -16,11 +17,11 @@ void BoolEditor::toStream(std::ostream& out, int) const { out << (value_ ? "Yes"
 
 void BoolEditor::packData() { setDataPtr(std::make_shared<const BoolData>(value_)); }
 
-void BoolEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<BoolData>(data).getValue(); }
-
-void BoolEditor::setBool(bool value)
+void BoolEditor::unpackData(const VRK::BaseData& data)
 {
-    value_ = value;
+    value_ = DataCast::as<BoolData>(data).getValue();
 }
+
+void BoolEditor::setBool(bool value) { value_ = value; }
 
 } // namespace Prim

@@ -5,7 +5,10 @@
 
 namespace Prim {
 
-BoolViewer::BoolViewer() : VRK::DataViewer("BoolViewer", "Viewer for Bool values", BoolType::getInstance()) {}
+BoolViewer::BoolViewer()
+    : VRK::DataViewer("BoolViewer", "Viewer for Bool values", BoolType::getInstance())
+{
+}
 
 BoolViewer::~BoolViewer() = default;
 

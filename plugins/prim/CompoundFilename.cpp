@@ -13,7 +13,7 @@ namespace {
 
 using path = CompoundFilename::path;
 
-const std::string workdirText(const CompoundFilename::Workdir& workdir)
+std::string workdirText(const CompoundFilename::Workdir& workdir)
 {
     return workdir ? workdir->string() : std::string("<unknown>");
 }
@@ -46,6 +46,19 @@ path normalised(const path& filename)
     return result;
 }
 
+// Writes the line that `write` builds, only when the thread's logger keeps debug lines.
+template <class Write>
+void logDebug(Write write)
+{
+    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
+    if (!logger->isLogging(VRK::debug))
+        return;
+    std::ostringstream line;
+    line.precision(20);
+    write(line);
+    logger->log(VRK::debug, line.str(), false);
+}
+
 path withoutTrailingDots(path filename)
 {
     while (filename.filename() == "." && filename.has_parent_path())
@@ -64,15 +77,10 @@ CompoundFilename::~CompoundFilename() = default;
 
 void CompoundFilename::setFilename(const path& filename, const Workdir& workdir, bool delay)
 {
-    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-    if (logger->isLogging(VRK::debug)) {
-        std::ostringstream line;
-        line.precision(20);
+    logDebug([&](std::ostream& line) {
         line << "Defining internal filenames: input filename=\"" << filename.string()
-             << "\", workdir=\"" << workdirText(workdir) << "\", delay=" << std::boolalpha
-             << delay;
-        logger->log(VRK::debug, line.str(), false);
-    }
+             << "\", workdir=\"" << workdirText(workdir) << "\", delay=" << std::boolalpha << delay;
+    });
     path input = withoutTrailingDots(filename);
     if (input.is_absolute()) {
         fullFilename_ = input;
@@ -92,15 +100,11 @@ void CompoundFilename::setFilename(const path& filename, const Workdir& workdir,
 
 void CompoundFilename::updateFilenamesIfNecessary(const Workdir& workdir)
 {
-    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-    if (logger->isLogging(VRK::debug)) {
-        std::ostringstream line;
-        line.precision(20);
+    logDebug([&](std::ostream& line) {
         line << "Updating internal filenames: relative filename=\"" << relativeFilename_.string()
              << "\", full filename=\"" << fullFilename_.string() << "\", workdir=\""
              << workdirText(workdir) << "\"";
-        logger->log(VRK::debug, line.str(), false);
-    }
+    });
     if (workdir && !workdir->empty() && relativeFilename_.empty()) {
         relativeFilename_ = relativeTo(*workdir);
     } else if (workdir && workdir->empty() && !fullFilename_.empty()) {
@@ -179,14 +183,10 @@ CompoundFilename::path CompoundFilename::relativeTo(const path& workdir) const
 
 void CompoundFilename::logFilenames(const std::string& heading) const
 {
-    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-    if (!logger->isLogging(VRK::debug))
-        return;
-    std::ostringstream line;
-    line.precision(20);
-    line << heading << ": relative filename=\"" << relativeFilename_.string()
-         << "\", full filename=\"" << fullFilename_.string() << "\"";
-    logger->log(VRK::debug, line.str(), false);
+    logDebug([&](std::ostream& line) {
+        line << heading << ": relative filename=\"" << relativeFilename_.string()
+             << "\", full filename=\"" << fullFilename_.string() << "\"";
+    });
 }
 
 } // namespace Prim

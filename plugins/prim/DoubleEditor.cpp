@@ -11,7 +11,9 @@
 namespace Prim {
 
 DoubleEditor::DoubleEditor()
-    : VRK::DataEditor("DoubleEditor", "Editor used to edit/create real values.", DoubleType::getInstance()), value_(0.0)
+    : VRK::DataEditor("DoubleEditor", "Editor used to edit/create real values.",
+                      DoubleType::getInstance()),
+      value_(0.0)
 {
 }
 
@@ -19,7 +21,10 @@ DoubleEditor::~DoubleEditor() = default;
 
 void DoubleEditor::packData() { setDataPtr(std::make_shared<const DoubleData>(value_)); }
 
-void DoubleEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<DoubleData>(data).getValue(); }
+void DoubleEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<DoubleData>(data).getValue();
+}
 
 void DoubleEditor::setDouble(double value)
 {

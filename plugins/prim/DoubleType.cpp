@@ -2,7 +2,9 @@
 
 namespace Prim {
 
-DoubleType::DoubleType() : VRK::TypeShim<DoubleType, DoubleData>("Double", "Double precision real") {}
+DoubleType::DoubleType() : VRK::TypeShim<DoubleType, DoubleData>("Double", "Double precision real")
+{
+}
 
 DoubleType::~DoubleType() = default;
 

@@ -5,7 +5,11 @@
 
 namespace Prim {
 
-DoubleViewer::DoubleViewer() : VRK::DataViewer("DoubleViewer", "Viewer used to inspect real values.", DoubleType::getInstance()) {}
+DoubleViewer::DoubleViewer()
+    : VRK::DataViewer("DoubleViewer", "Viewer used to inspect real values.",
+                      DoubleType::getInstance())
+{
+}
 
 DoubleViewer::~DoubleViewer() = default;
 

@@ -27,10 +27,7 @@ FilenameEditor::FilenameEditor(const std::string& name, const std::string& descr
 
 FilenameEditor::~FilenameEditor() = default;
 
-void FilenameEditor::toStream(std::ostream& out, int) const
-{
-    out << '"' << getFilename() << '"';
-}
+void FilenameEditor::toStream(std::ostream& out, int) const { out << '"' << getFilename() << '"'; }
 
 void FilenameEditor::unpackData(const VRK::BaseData& data)
 {
@@ -40,8 +37,8 @@ void FilenameEditor::unpackData(const VRK::BaseData& data)
 void FilenameEditor::prepare()
 {
     VRK::DataEditor::prepare();
-    const bool named = !filename_.getFullFilename().empty()
-                       || !filename_.getRelativeFilename().empty();
+    const bool named =
+        !filename_.getFullFilename().empty() || !filename_.getRelativeFilename().empty();
     if (updateWorkdir() && named)
         filename_.updateFilenamesIfNecessary(workdir_);
 }
@@ -55,10 +52,9 @@ bool FilenameEditor::isExtensionAccepted(const std::string&) const { return true
 void FilenameEditor::setFilename(std::string filename, bool delay)
 {
     if (filename.empty())
-        VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The " + getAlias() + " \""
-                                                              + filename + "\" is not valid.");
-    filename_.setFilename(PathEditor::normalisePath(filename), delay ? Workdir() : workdir_,
-                          delay);
+        VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The " + getAlias() + " \"" + filename
+                                                              + "\" is not valid.");
+    filename_.setFilename(PathEditor::normalisePath(filename), delay ? Workdir() : workdir_, delay);
 }
 
 std::string FilenameEditor::getFilename() const
@@ -72,10 +68,7 @@ std::string FilenameEditor::getRelativeFilename() const
     return filename_.getRelativeFilename().string();
 }
 
-std::string FilenameEditor::getFullFilename() const
-{
-    return filename_.getFullFilename().string();
-}
+std::string FilenameEditor::getFullFilename() const { return filename_.getFullFilename().string(); }
 
 std::string FilenameEditor::getWorkdir() const
 {
@@ -96,8 +89,8 @@ bool FilenameEditor::updateWorkdir()
         if (logger->isLogging(VRK::debug)) {
             std::ostringstream line;
             line.precision(20);
-            line << getName() << ": Exception ignored trying to retrieve workdir:"
-                 << exception.getMessage();
+            line << getName()
+                 << ": Exception ignored trying to retrieve workdir:" << exception.getMessage();
             logger->log(VRK::debug, line.str(), false);
         }
         return false;

@@ -12,7 +12,10 @@ FolderEditor::FolderEditor()
 
 FolderEditor::~FolderEditor() = default;
 
-void FolderEditor::packData() { setDataPtr(std::make_shared<const FolderData>(getCompoundFilename())); }
+void FolderEditor::packData()
+{
+    setDataPtr(std::make_shared<const FolderData>(getCompoundFilename()));
+}
 
 std::string FolderEditor::getAlias() const { return "folder"; }
 

@@ -14,11 +14,11 @@ IntEditor::~IntEditor() = default;
 
 void IntEditor::packData() { setDataPtr(std::make_shared<const IntData>(value_)); }
 
-void IntEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<IntData>(data).getValue(); }
-
-void IntEditor::setInt(int value)
+void IntEditor::unpackData(const VRK::BaseData& data)
 {
-    value_ = value;
+    value_ = DataCast::as<IntData>(data).getValue();
 }
+
+void IntEditor::setInt(int value) { value_ = value; }
 
 } // namespace Prim

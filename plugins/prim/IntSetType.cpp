@@ -2,7 +2,9 @@
 
 namespace Prim {
 
-IntSetType::IntSetType() : VRK::TypeShim<IntSetType, IntSetData>("IntSet", "Type of integer sets") {}
+IntSetType::IntSetType() : VRK::TypeShim<IntSetType, IntSetData>("IntSet", "Type of integer sets")
+{
+}
 
 IntSetType::~IntSetType() = default;
 

@@ -2,7 +2,10 @@
 
 namespace Prim {
 
-IntType::IntType() : VRK::TypeShim<IntType, IntData>("Int", "Integer", VRK::Singleton<DoubleType>::getInstance()) {}
+IntType::IntType()
+    : VRK::TypeShim<IntType, IntData>("Int", "Integer", VRK::Singleton<DoubleType>::getInstance())
+{
+}
 
 IntType::~IntType() = default;
 

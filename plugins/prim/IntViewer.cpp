@@ -5,7 +5,10 @@
 
 namespace Prim {
 
-IntViewer::IntViewer() : VRK::DataViewer("IntViewer", "Viewer for Int values", IntType::getInstance()) {}
+IntViewer::IntViewer()
+    : VRK::DataViewer("IntViewer", "Viewer for Int values", IntType::getInstance())
+{
+}
 
 IntViewer::~IntViewer() = default;
 

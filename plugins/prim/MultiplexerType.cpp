@@ -2,7 +2,10 @@
 
 namespace Prim {
 
-MultiplexerType::MultiplexerType() : VRK::BaseType("Multiplexer", "Functors with multiplexing capabilities") {}
+MultiplexerType::MultiplexerType()
+    : VRK::BaseType("Multiplexer", "Functors with multiplexing capabilities")
+{
+}
 
 MultiplexerType::~MultiplexerType() = default;
 

@@ -2,7 +2,10 @@
 
 namespace Prim {
 
-NameType::NameType() : VRK::TypeShim<NameType, NameData>("Name", "Name", VRK::Singleton<StringType>::getInstance()) {}
+NameType::NameType()
+    : VRK::TypeShim<NameType, NameData>("Name", "Name", VRK::Singleton<StringType>::getInstance())
+{
+}
 
 NameType::~NameType() = default;
 

@@ -5,10 +5,16 @@
 
 namespace Prim {
 
-NameViewer::NameViewer() : VRK::DataViewer("NameViewer", "Viewer for names", NameType::getInstance()) {}
+NameViewer::NameViewer()
+    : VRK::DataViewer("NameViewer", "Viewer for names", NameType::getInstance())
+{
+}
 
 NameViewer::~NameViewer() = default;
 
-const std::string& NameViewer::getName() const { return DataCast::as<NameData>(getData()).getValue(); }
+const std::string& NameViewer::getName() const
+{
+    return DataCast::as<NameData>(getData()).getValue();
+}
 
 } // namespace Prim

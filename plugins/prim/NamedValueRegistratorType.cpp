@@ -2,7 +2,10 @@
 
 namespace Prim {
 
-NamedValueRegistratorType::NamedValueRegistratorType() : VRK::BaseType("NamedValueRegistrator", "Functors with named value registration capabilities") {}
+NamedValueRegistratorType::NamedValueRegistratorType()
+    : VRK::BaseType("NamedValueRegistrator", "Functors with named value registration capabilities")
+{
+}
 
 NamedValueRegistratorType::~NamedValueRegistratorType() = default;
 

@@ -10,19 +10,27 @@
 namespace Prim {
 
 NonNegativeIntEditor::NonNegativeIntEditor()
-    : VRK::DataEditor("NonNegativeIntEditor", "Editor for non-negative integer values", NonNegativeIntType::getInstance()), value_(0)
+    : VRK::DataEditor("NonNegativeIntEditor", "Editor for non-negative integer values",
+                      NonNegativeIntType::getInstance()),
+      value_(0)
 {
 }
 
 NonNegativeIntEditor::~NonNegativeIntEditor() = default;
 
-void NonNegativeIntEditor::packData() { setDataPtr(std::make_shared<const NonNegativeIntData>(value_)); }
+void NonNegativeIntEditor::packData()
+{
+    setDataPtr(std::make_shared<const NonNegativeIntData>(value_));
+}
 
-void NonNegativeIntEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<NonNegativeIntData>(data).getValue(); }
+void NonNegativeIntEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<NonNegativeIntData>(data).getValue();
+}
 
 void NonNegativeIntEditor::setNonNegativeInt(int value)
 {
-    if (!(value >= 0)) {
+    if (value < 0) {
         std::ostringstream message;
         message << "The non-negative integer value \"" << value << "\" is not valid.";
         VRK::ExceptionUtils::raise<VRK::IllegalDataException>(message.str());

@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-NonNegativeIntType::NonNegativeIntType() : VRK::TypeShim<NonNegativeIntType, NonNegativeIntData>("NonNegativeInt", "Non-negative integer", VRK::Singleton<PositiveIntType>::getInstance()) {}
+NonNegativeIntType::NonNegativeIntType()
+    : VRK::TypeShim<NonNegativeIntType, NonNegativeIntData>(
+        "NonNegativeInt", "Non-negative integer", VRK::Singleton<PositiveIntType>::getInstance())
+{
+}
 
 NonNegativeIntType::~NonNegativeIntType() = default;
 

@@ -5,10 +5,17 @@
 
 namespace Prim {
 
-NonNegativeIntViewer::NonNegativeIntViewer() : VRK::DataViewer("NonNegativeIntViewer", "Viewer for non-negative integer values", NonNegativeIntType::getInstance()) {}
+NonNegativeIntViewer::NonNegativeIntViewer()
+    : VRK::DataViewer("NonNegativeIntViewer", "Viewer for non-negative integer values",
+                      NonNegativeIntType::getInstance())
+{
+}
 
 NonNegativeIntViewer::~NonNegativeIntViewer() = default;
 
-int NonNegativeIntViewer::getNonNegativeInt() const { return DataCast::as<NonNegativeIntData>(getData()).getValue(); }
+int NonNegativeIntViewer::getNonNegativeInt() const
+{
+    return DataCast::as<NonNegativeIntData>(getData()).getValue();
+}
 
 } // namespace Prim

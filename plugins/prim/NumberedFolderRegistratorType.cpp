@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-NumberedFolderRegistratorType::NumberedFolderRegistratorType() : VRK::BaseType("NumberedFolderRegistrator", "Functors with numbered folder registration capabilities") {}
+NumberedFolderRegistratorType::NumberedFolderRegistratorType()
+    : VRK::BaseType("NumberedFolderRegistrator",
+                    "Functors with numbered folder registration capabilities")
+{
+}
 
 NumberedFolderRegistratorType::~NumberedFolderRegistratorType() = default;
 

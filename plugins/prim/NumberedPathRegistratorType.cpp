@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-NumberedPathRegistratorType::NumberedPathRegistratorType() : VRK::BaseType("NumberedPathRegistrator", "Functors with numbered path registration capabilities") {}
+NumberedPathRegistratorType::NumberedPathRegistratorType()
+    : VRK::BaseType("NumberedPathRegistrator",
+                    "Functors with numbered path registration capabilities")
+{
+}
 
 NumberedPathRegistratorType::~NumberedPathRegistratorType() = default;
 

@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-NumberedStringRegistratorType::NumberedStringRegistratorType() : VRK::BaseType("NumberedStringRegistrator", "Functors with numbered string registration capabilities") {}
+NumberedStringRegistratorType::NumberedStringRegistratorType()
+    : VRK::BaseType("NumberedStringRegistrator",
+                    "Functors with numbered string registration capabilities")
+{
+}
 
 NumberedStringRegistratorType::~NumberedStringRegistratorType() = default;
 

@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-NumberedValueRegistratorType::NumberedValueRegistratorType() : VRK::BaseType("NumberedValueRegistrator", "Functors with numbered value registration capabilities") {}
+NumberedValueRegistratorType::NumberedValueRegistratorType()
+    : VRK::BaseType("NumberedValueRegistrator",
+                    "Functors with numbered value registration capabilities")
+{
+}
 
 NumberedValueRegistratorType::~NumberedValueRegistratorType() = default;
 

@@ -40,9 +40,8 @@ PathEditor::path PathEditor::getRelativePath() const
 std::string PathEditor::normalisePath(const std::string& text)
 {
     static const std::string prefix = "//:";
-    std::string normalised = text.compare(0, prefix.size(), prefix) == 0
-                                 ? text.substr(prefix.size())
-                                 : text;
+    std::string normalised =
+        text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
     std::replace(normalised.begin(), normalised.end(), '\\', '/');
     return normalised;
 }

@@ -5,10 +5,16 @@
 
 namespace Prim {
 
-PathViewer::PathViewer() : VRK::DataViewer("PathViewer", "Viewer for file paths", PathType::getInstance()) {}
+PathViewer::PathViewer()
+    : VRK::DataViewer("PathViewer", "Viewer for file paths", PathType::getInstance())
+{
+}
 
 PathViewer::~PathViewer() = default;
 
-const boost::filesystem::path& PathViewer::getPath() const { return DataCast::as<PathData>(getData()).getValue(); }
+const boost::filesystem::path& PathViewer::getPath() const
+{
+    return DataCast::as<PathData>(getData()).getValue();
+}
 
 } // namespace Prim

@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-PercentType::PercentType() : VRK::TypeShim<PercentType, PercentData>("Percent", "Percentual value", VRK::Singleton<DoubleType>::getInstance()) {}
+PercentType::PercentType()
+    : VRK::TypeShim<PercentType, PercentData>("Percent", "Percentual value",
+                                              VRK::Singleton<DoubleType>::getInstance())
+{
+}
 
 PercentType::~PercentType() = default;
 

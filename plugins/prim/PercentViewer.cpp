@@ -5,7 +5,11 @@
 
 namespace Prim {
 
-PercentViewer::PercentViewer() : VRK::DataViewer("PercentViewer", "Viewer for inspecting percent values", PercentType::getInstance()) {}
+PercentViewer::PercentViewer()
+    : VRK::DataViewer("PercentViewer", "Viewer for inspecting percent values",
+                      PercentType::getInstance())
+{
+}
 
 PercentViewer::~PercentViewer() = default;
 

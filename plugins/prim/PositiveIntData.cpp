@@ -4,10 +4,7 @@
 
 namespace Prim {
 
-PositiveIntData::PositiveIntData(int value) : IntData(value)
-{
-    assert(value > 0 && "value > 0");
-}
+PositiveIntData::PositiveIntData(int value) : IntData(value) { assert(value > 0 && "value > 0"); }
 
 PositiveIntData::~PositiveIntData() = default;
 

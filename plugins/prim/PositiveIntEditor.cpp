@@ -10,7 +10,9 @@
 namespace Prim {
 
 PositiveIntEditor::PositiveIntEditor()
-    : VRK::DataEditor("PositiveIntEditor", "Editor for positive integer values", PositiveIntType::getInstance()), value_(1)
+    : VRK::DataEditor("PositiveIntEditor", "Editor for positive integer values",
+                      PositiveIntType::getInstance()),
+      value_(1)
 {
 }
 
@@ -18,11 +20,14 @@ PositiveIntEditor::~PositiveIntEditor() = default;
 
 void PositiveIntEditor::packData() { setDataPtr(std::make_shared<const PositiveIntData>(value_)); }
 
-void PositiveIntEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<PositiveIntData>(data).getValue(); }
+void PositiveIntEditor::unpackData(const VRK::BaseData& data)
+{
+    value_ = DataCast::as<PositiveIntData>(data).getValue();
+}
 
 void PositiveIntEditor::setPositiveInt(int value)
 {
-    if (!(value > 0)) {
+    if (value <= 0) {
         std::ostringstream message;
         message << "The positive integer value \"" << value << "\" is not valid.";
         VRK::ExceptionUtils::raise<VRK::IllegalDataException>(message.str());

@@ -2,7 +2,11 @@
 
 namespace Prim {
 
-PositiveIntType::PositiveIntType() : VRK::TypeShim<PositiveIntType, PositiveIntData>("PositiveInt", "Positive integer", VRK::Singleton<IntType>::getInstance()) {}
+PositiveIntType::PositiveIntType()
+    : VRK::TypeShim<PositiveIntType, PositiveIntData>("PositiveInt", "Positive integer",
+                                                      VRK::Singleton<IntType>::getInstance())
+{
+}
 
 PositiveIntType::~PositiveIntType() = default;
 

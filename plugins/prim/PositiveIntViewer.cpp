@@ -5,10 +5,17 @@
 
 namespace Prim {
 
-PositiveIntViewer::PositiveIntViewer() : VRK::DataViewer("PositiveIntViewer", "Viewer for positive integer values", PositiveIntType::getInstance()) {}
+PositiveIntViewer::PositiveIntViewer()
+    : VRK::DataViewer("PositiveIntViewer", "Viewer for positive integer values",
+                      PositiveIntType::getInstance())
+{
+}
 
 PositiveIntViewer::~PositiveIntViewer() = default;
 
-int PositiveIntViewer::getPositiveInt() const { return DataCast::as<PositiveIntData>(getData()).getValue(); }
+int PositiveIntViewer::getPositiveInt() const
+{
+    return DataCast::as<PositiveIntData>(getData()).getValue();
+}
 
 } // namespace Prim

@@ -8,7 +8,8 @@
 namespace Prim {
 
 StringEditor::StringEditor()
-    : VRK::DataEditor("StringEditor", "Editor for String values", StringType::getInstance()), value_()
+    : VRK::DataEditor("StringEditor", "Editor for String values", StringType::getInstance()),
+      value_()
 {
 }
 
@@ -16,11 +17,11 @@ StringEditor::~StringEditor() = default;
 
 void StringEditor::packData() { setDataPtr(std::make_shared<const StringData>(value_)); }
 
-void StringEditor::unpackData(const VRK::BaseData& data) { value_ = DataCast::as<StringData>(data).getValue(); }
-
-void StringEditor::setString(std::string value)
+void StringEditor::unpackData(const VRK::BaseData& data)
 {
-    value_ = std::move(value);
+    value_ = DataCast::as<StringData>(data).getValue();
 }
+
+void StringEditor::setString(std::string value) { value_ = std::move(value); }
 
 } // namespace Prim

@@ -5,10 +5,16 @@
 
 namespace Prim {
 
-StringViewer::StringViewer() : VRK::DataViewer("StringViewer", "Viewer for String values", StringType::getInstance()) {}
+StringViewer::StringViewer()
+    : VRK::DataViewer("StringViewer", "Viewer for String values", StringType::getInstance())
+{
+}
 
 StringViewer::~StringViewer() = default;
 
-const std::string& StringViewer::getString() const { return DataCast::as<StringData>(getData()).getValue(); }
+const std::string& StringViewer::getString() const
+{
+    return DataCast::as<StringData>(getData()).getValue();
+}
 
 } // namespace Prim

@@ -1,0 +1,171 @@
+#include "base/Functor.h"
+#include "plugins/prim/BoolType.h"
+#include "plugins/prim/DoubleType.h"
+#include "plugins/prim/FolderType.h"
+#include "plugins/prim/IntSetType.h"
+#include "plugins/prim/IntType.h"
+#include "plugins/prim/LogTagType.h"
+#include "plugins/prim/MultiplexerType.h"
+#include "plugins/prim/NameType.h"
+#include "plugins/prim/NamedValueRegistratorType.h"
+#include "plugins/prim/NonNegativeIntType.h"
+#include "plugins/prim/NumberedFolderRegistratorType.h"
+#include "plugins/prim/NumberedPathRegistratorType.h"
+#include "plugins/prim/NumberedStringRegistratorType.h"
+#include "plugins/prim/NumberedValueRegistratorType.h"
+#include "plugins/prim/PathType.h"
+#include "plugins/prim/PercentType.h"
+#include "plugins/prim/PositiveIntType.h"
+#include "plugins/prim/PrimTypes.h"
+#include "plugins/prim/StringType.h"
+#include "plugins/prim/WorkdirType.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <typeinfo>
+
+namespace {
+
+struct Expected {
+    std::string description;
+    std::string parent;
+};
+
+const std::map<std::string, Expected>& catalogue()
+{
+    static const std::map<std::string, Expected> types = {
+        {"Bool", {"Boolean", ""}},
+        {"Double", {"Double precision real", ""}},
+        {"Int", {"Integer", "Double"}},
+        {"PositiveInt", {"Positive integer", "Int"}},
+        {"NonNegativeInt", {"Non-negative integer", "PositiveInt"}},
+        {"Percent", {"Percentual value", "Double"}},
+        {"IntSet", {"Type of integer sets", ""}},
+        {"String", {"String", ""}},
+        {"Name", {"Name", "String"}},
+        {"Path", {"File path", ""}},
+        {"Folder", {"Folder", ""}},
+        {"Workdir", {"Work directory", ""}},
+        {"LogTag", {"LogTag", ""}},
+        {"NamedValueRegistrator", {"Functors with named value registration capabilities", ""}},
+        {"NumberedValueRegistrator",
+         {"Functors with numbered value registration capabilities", ""}},
+        {"NumberedFolderRegistrator",
+         {"Functors with numbered folder registration capabilities", ""}},
+        {"NumberedPathRegistrator", {"Functors with numbered path registration capabilities", ""}},
+        {"NumberedStringRegistrator",
+         {"Functors with numbered string registration capabilities", ""}},
+        {"Multiplexer", {"Functors with multiplexing capabilities", ""}},
+    };
+    return types;
+}
+
+// A functor whose inputs are fed by its own outputs, to see what a port makes of the
+// data that a binding brings.
+class Probe : public VRK::Functor {
+public:
+    Probe() : Functor("Probe", "Reads what its inputs get", nullptr)
+    {
+        addInputPort("real", "", Prim::DoubleType::getInstance(), false);
+        addInputPort("integer", "", Prim::IntType::getInstance(), false);
+        addInputPort("text", "", Prim::StringType::getInstance(), false);
+        addOutputPort("positive", "", Prim::PositiveIntType::getInstance());
+        addOutputPort("name", "", Prim::NameType::getInstance());
+    }
+    void runImpl() override {}
+};
+
+} // namespace
+
+TEST(Types, CatalogueNamesDescriptionsAndParents)
+{
+    Prim::PrimTypes::instantiateAll();
+    std::map<std::string, const VRK::BaseType*> listed;
+    for (const VRK::BaseType* type : VRK::BaseType::getAllTypes())
+        listed[type->getName()] = type;
+    for (const auto& [name, expected] : catalogue()) {
+        ASSERT_EQ(listed.count(name), 1u) << name << " is not listed";
+        const VRK::BaseType* type = listed[name];
+        EXPECT_EQ(type->getDescription(), expected.description) << name;
+        EXPECT_EQ(type->getParent() ? type->getParent()->getName() : "", expected.parent) << name;
+    }
+}
+
+TEST(Types, SingletonsAndTheParentChain)
+{
+    EXPECT_EQ(VRK::Singleton<Prim::IntType>::getInstance(), Prim::IntType::getInstance());
+    EXPECT_EQ(VRK::Singleton<Prim::MultiplexerType>::getInstance(),
+              VRK::Singleton<Prim::MultiplexerType>::getInstance());
+
+    const auto doubleType = Prim::DoubleType::getInstance();
+    const auto intType = Prim::IntType::getInstance();
+    const auto positive = Prim::PositiveIntType::getInstance();
+    const auto nonNegative = Prim::NonNegativeIntType::getInstance();
+    EXPECT_TRUE(intType->isParent(doubleType));
+    EXPECT_TRUE(positive->isParent(intType));
+    EXPECT_TRUE(nonNegative->isParent(positive));
+    EXPECT_FALSE(positive->isParent(nonNegative));
+    EXPECT_FALSE(nonNegative->isParent(intType)) << "only the direct parent counts";
+    EXPECT_TRUE(Prim::PercentType::getInstance()->isParent(doubleType));
+    EXPECT_TRUE(Prim::NameType::getInstance()->isParent(Prim::StringType::getInstance()));
+    EXPECT_FALSE(Prim::StringType::getInstance()->isParent(Prim::NameType::getInstance()));
+}
+
+TEST(Types, EachTypeMakesTheEditorAndViewerOfItsData)
+{
+    const auto editorOf = [](const std::shared_ptr<VRK::BaseType>& type) {
+        auto editor = type->createEditor();
+        return editor ? editor->getName() : std::string("none");
+    };
+    const auto viewerOf = [](const std::shared_ptr<VRK::BaseType>& type) {
+        auto viewer = type->createViewer();
+        return viewer ? viewer->getName() : std::string("none");
+    };
+    EXPECT_EQ(editorOf(Prim::IntType::getInstance()), "IntEditor");
+    EXPECT_EQ(editorOf(Prim::PositiveIntType::getInstance()), "PositiveIntEditor");
+    EXPECT_EQ(viewerOf(Prim::PositiveIntType::getInstance()), "IntViewer");
+    EXPECT_EQ(editorOf(Prim::NonNegativeIntType::getInstance()), "NonNegativeIntEditor");
+    EXPECT_EQ(editorOf(Prim::NameType::getInstance()), "NameEditor");
+    EXPECT_EQ(viewerOf(Prim::NameType::getInstance()), "StringViewer");
+    EXPECT_EQ(editorOf(Prim::FolderType::getInstance()), "FolderEditor");
+    EXPECT_EQ(viewerOf(Prim::FolderType::getInstance()), "FolderViewer");
+    EXPECT_EQ(editorOf(Prim::LogTagType::getInstance()), "LogTagEditor");
+    EXPECT_EQ(editorOf(Prim::WorkdirType::getInstance()), "none");
+    EXPECT_EQ(viewerOf(Prim::WorkdirType::getInstance()), "none");
+}
+
+TEST(Types, IntegersReadAsIntsAndAsReals)
+{
+    const Prim::IntData seven(7);
+    EXPECT_EQ(seven.getValue(), 7);
+    EXPECT_EQ(static_cast<const Prim::DoubleData&>(seven).getValue(), 7.0);
+
+    Probe probe;
+    dynamic_cast<Prim::IntEditor&>(*probe.getInputPort("integer")->getDataEditor()).setInt(-4);
+    probe.getInputPort("real")->bind(probe.getInputPort("integer"));
+    probe.getOutputPort("positive")->setDataPtr(std::make_shared<const Prim::PositiveIntData>(9));
+    probe.getOutputPort("name")->setDataPtr(std::make_shared<const Prim::NameData>("lake"));
+    probe.getInputPort("text")->bind(probe.getOutputPort("name"));
+
+    probe.getInputPort("integer")->pullData();
+    probe.getInputPort("real")->pullData();
+    probe.getInputPort("text")->pullData();
+    EXPECT_EQ(probe.getInputPortValue<Prim::IntData>("integer"), -4);
+    EXPECT_EQ(probe.getInputPortValue<Prim::DoubleData>("integer"), -4.0);
+    EXPECT_EQ(probe.getInputPortValue<Prim::DoubleData>("real"), -4.0);
+    EXPECT_EQ(probe.getInputPortValue<Prim::StringData>("text"), "lake");
+
+    probe.getInputPort("integer")->bind(probe.getOutputPort("positive"));
+    probe.getInputPort("integer")->pullData();
+    EXPECT_EQ(probe.getInputPortValue<Prim::IntData>("integer"), 9)
+        << "a positive integer goes wherever an integer does";
+    EXPECT_EQ(probe.getInputPortValue<Prim::DoubleData>("integer"), 9.0);
+}
+
+TEST(TypesDeathTest, ConstrainedIntegersAssertTheirRange)
+{
+    EXPECT_DEATH(Prim::PositiveIntData(0), "value > 0");
+    EXPECT_DEATH(Prim::NonNegativeIntData(-1), "value >= 0");
+}
