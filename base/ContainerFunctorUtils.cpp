@@ -2,19 +2,114 @@
 
 #include "base/ContainerFunctor.h"
 #include "base/HookFunctor.h"
+#include "base/Logger.h"
+#include "base/RunContext.h"
+#include "base/SequentialFunctorScheduler.h"
+
+#include <sstream>
 
 namespace VRK {
 
-void ContainerFunctorUtils::runFunctorsInContainer(const ContainerFunctor& container, LogTag)
+namespace {
+
+void startPass(const FunctorContainer& container)
 {
-    for (const auto& functor : container.getFunctors())
-        if (!dynamic_cast<HookFunctor*>(functor.get()))
-            functor->run();
+    for (const auto& functor : container.getFunctors()) {
+        functor->resetOutputPortData(true);
+        functor->resetInputPortData(false);
+    }
+    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
+        for (const auto& port : owner->getInternalInputPorts())
+            if (!port->isFeedback())
+                port->resetData();
+}
+
+void endPass(const FunctorContainer& container, const ContainerPlan& plan)
+{
+    for (HookFunctor* hook : plan.getHooks()) {
+        hook->Functor::preparePorts();
+        hook->pullInputs();
+    }
+    plan.takeFeedback();
+    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
+        for (const auto& port : owner->getInternalInputPorts()) {
+            if (auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get()))
+                feedback->pullFeedback();
+            else
+                port->pullData();
+        }
+}
+
+// `described` is the error as the log shows it: for the host's exceptions, with the
+// exception's name.
+void report(const Functor& functor, const char* message, const std::string& described, LogTag tag)
+{
+    RunContext* context = RunContext::getCurrent();
+    if (context && !context->noteFailure(functor, message))
+        return;
+    Logger* logger = Logger::getCurrentThreadLogger();
+    if (!logger->isLogging(tag))
+        return;
+    std::ostringstream line;
+    line.precision(20);
+    line << "The run of " << functor.getDisplayName() << " failed: " << described;
+    logger->log(tag, line.str());
+}
+
+// A pass outside any run (a container run on its own, as tests do) gets a context of
+// its own for the pass: the current task, if any, and sequential order.
+void runPassAlone(const FunctorContainer& container, LogTag tag)
+{
+    Task standIn;
+    Task* task = Task::getCurrentTask();
+    RunContext context(task ? *task : standIn,
+                       [] { return std::make_unique<SequentialFunctorScheduler>(); });
+    RunContext::Activation active(context);
+    ContainerFunctorUtils::runPass(container, tag);
+}
+
+} // namespace
+
+void ContainerFunctorUtils::runFunctorsInContainer(const ContainerFunctor& container, LogTag tag)
+{
+    runPass(container, tag);
 }
 
 void ContainerFunctorUtils::runFunctorsInContainer(const ContainerFunctor& container)
 {
-    runFunctorsInContainer(container, debug);
+    runPass(container, debug);
+}
+
+void ContainerFunctorUtils::runPass(const FunctorContainer& container, LogTag tag)
+{
+    RunContext* context = RunContext::getCurrent();
+    if (!context) {
+        runPassAlone(container, tag);
+        return;
+    }
+    ContainerPlan& plan = context->getPlan(container);
+    FunctorScheduler& scheduler = plan.getScheduler(tag);
+    startPass(container);
+    scheduler.run();
+    endPass(container, plan);
+}
+
+void ContainerFunctorUtils::runFunctor(Functor& functor, LogTag tag)
+{
+    try {
+        RunContext* context = RunContext::getCurrent();
+        if (auto* container = dynamic_cast<ContainerFunctor*>(&functor); container && context)
+            context->getPlan(*container).clearFeedback();
+        functor.Functor::preparePorts();
+        functor.run();
+    } catch (const Exception& exception) {
+        report(functor, exception.what(),
+               std::string(exception.getName()) + ": " + exception.getMessage(), tag);
+        throw;
+    } catch (const std::exception& exception) {
+        report(functor, exception.what(), exception.what(), tag);
+        throw;
+    }
 }
 
 } // namespace VRK

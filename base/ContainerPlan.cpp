@@ -1,0 +1,86 @@
+#include "base/ContainerPlan.h"
+
+#include "base/ContainerFunctor.h"
+#include "base/FunctorScheduler.h"
+#include "base/HookFunctor.h"
+
+namespace VRK {
+
+namespace {
+
+// Whether `functor` is `container` or lies inside it.
+bool isWithin(const Functor* functor, const FunctorContainer& container)
+{
+    for (; functor; functor = functor->getContainer() ? functor->getContainer()->asFunctor()
+                                                      : nullptr) {
+        if (functor == container.asFunctor() || functor->getContainer() == &container)
+            return true;
+    }
+    return false;
+}
+
+// The innermost container that holds both the reader of `port` and its peer's producer.
+const FunctorContainer* closingContainer(const InputPort& port)
+{
+    const Functor* producer = port.getPeer()->getOwner();
+    for (const FunctorContainer* container = port.getOwner()->getContainer(); container;
+         container = container->getParentContainer())
+        if (isWithin(producer, *container))
+            return container;
+    return nullptr;
+}
+
+} // namespace
+
+ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler)
+    : container_(container), makeScheduler_(std::move(makeScheduler))
+{
+    for (const auto& functor : container.getFunctors())
+        if (auto* hook = dynamic_cast<HookFunctor*>(functor.get()))
+            hooks_.push_back(hook);
+    collectFeedback(container);
+}
+
+ContainerPlan::~ContainerPlan() = default;
+
+void ContainerPlan::collectFeedback(const FunctorContainer& inner)
+{
+    for (const auto& functor : inner.getFunctors()) {
+        for (const auto& port : functor->getInputPorts()) {
+            if (!port->isFeedback() || !port->isBound() || closingContainer(*port) != &container_)
+                continue;
+            auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get());
+            assert(feedback != 0 && "feedback != 0");
+            feedback_.push_back(feedback);
+        }
+        if (auto* container = dynamic_cast<const ContainerFunctor*>(functor.get()))
+            collectFeedback(*container);
+    }
+}
+
+FunctorScheduler& ContainerPlan::getScheduler(LogTag tag)
+{
+    if (!scheduler_) {
+        scheduler_ = makeScheduler_();
+        assert(scheduler_ != 0 && "scheduler != 0");
+    } else if (tag == scheduledTag_) {
+        return *scheduler_;
+    }
+    scheduler_->schedule(const_cast<FunctorContainer&>(container_), tag);
+    scheduledTag_ = tag;
+    return *scheduler_;
+}
+
+void ContainerPlan::clearFeedback() const
+{
+    for (FeedbackStrongInputPort* port : feedback_)
+        port->resetData();
+}
+
+void ContainerPlan::takeFeedback() const
+{
+    for (FeedbackStrongInputPort* port : feedback_)
+        port->pullFeedback();
+}
+
+} // namespace VRK

@@ -1,0 +1,53 @@
+#ifndef VRK_BASE_CONTAINERPLAN_H
+#define VRK_BASE_CONTAINERPLAN_H
+
+#include "base/LogTag.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace VRK {
+
+class FeedbackStrongInputPort;
+class FunctorContainer;
+class FunctorScheduler;
+class HookFunctor;
+
+// What a pass over a container's contents needs, worked out once for a run: the
+// scheduler that orders them, the hook functors among them, and the feedback ports
+// whose cycle closes at this container (their reader and their peer's producer meet
+// nowhere deeper).
+class ContainerPlan {
+public:
+    using SchedulerMaker = std::function<std::unique_ptr<FunctorScheduler>()>;
+
+    ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler);
+    ~ContainerPlan();
+    ContainerPlan(const ContainerPlan&) = delete;
+    ContainerPlan& operator=(const ContainerPlan&) = delete;
+
+    // The scheduler, scheduled on the container on first request (again if `tag`
+    // changes).
+    FunctorScheduler& getScheduler(LogTag tag);
+    const std::vector<HookFunctor*>& getHooks() const { return hooks_; }
+
+    // A new run of the container starts: its cycles carry nothing yet.
+    void clearFeedback() const;
+    // A pass ended: each feedback port takes what its peer produced in it.
+    void takeFeedback() const;
+
+private:
+    void collectFeedback(const FunctorContainer& inner);
+
+    const FunctorContainer& container_;
+    SchedulerMaker makeScheduler_;
+    std::unique_ptr<FunctorScheduler> scheduler_;
+    LogTag scheduledTag_ = debug;
+    std::vector<HookFunctor*> hooks_;
+    std::vector<FeedbackStrongInputPort*> feedback_;
+};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,120 @@
+#include "base/ParallelFunctorScheduler.h"
+
+#include "base/ContainerFunctorUtils.h"
+#include "base/Logger.h"
+#include "base/LoggerInitializer.h"
+#include "base/RunContext.h"
+
+#include <tbb/task_group.h>
+
+#include <atomic>
+#include <exception>
+#include <memory>
+#include <mutex>
+
+namespace VRK {
+
+namespace {
+
+// One run of a schedule on the pool. Each functor waits for a count of predecessors;
+// the one that brings a successor's count to zero starts it.
+class ParallelPass {
+public:
+    ParallelPass(const std::vector<Functor*>& order,
+                 const std::vector<std::vector<size_t>>& waits, LogTag tag)
+        : order_(order), tag_(tag), remaining_(order.size()), successors_(order.size()),
+          context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
+          filter_(Logger::getCurrentThreadLogger()->getMainFilter())
+    {
+        for (size_t position = 0; position < order.size(); ++position) {
+            remaining_[position] = waits[position].size();
+            for (size_t waited : waits[position])
+                successors_[waited].push_back(position);
+        }
+    }
+
+    // The roots are picked before any starts: once one runs, the counts move.
+    void run()
+    {
+        std::vector<size_t> roots;
+        for (size_t position = 0; position < order_.size(); ++position)
+            if (remaining_[position] == 0)
+                roots.push_back(position);
+        for (size_t root : roots)
+            start(root);
+        group_.wait();
+        if (error_)
+            std::rethrow_exception(error_);
+    }
+
+private:
+    void start(size_t position)
+    {
+        group_.run([this, position] { runOnWorker(position); });
+    }
+
+    void runOnWorker(size_t position)
+    {
+        if (failed_.load())
+            return;
+        std::unique_ptr<RunContext::Activation> context;
+        std::unique_ptr<Task::Activation> task;
+        if (context_)
+            context = std::make_unique<RunContext::Activation>(*context_);
+        else
+            task = std::make_unique<Task::Activation>(task_);
+        LoggerInitializer logger(filter_);
+        try {
+            ContainerFunctorUtils::runFunctor(*order_[position], tag_);
+        } catch (...) {
+            fail(std::current_exception());
+            return;
+        }
+        for (size_t successor : successors_[position])
+            if (--remaining_[successor] == 0)
+                start(successor);
+    }
+
+    void fail(std::exception_ptr error)
+    {
+        std::lock_guard<std::mutex> lock(errorMutex_);
+        if (!error_)
+            error_ = error;
+        failed_.store(true);
+    }
+
+    const std::vector<Functor*>& order_;
+    LogTag tag_;
+    std::vector<std::atomic<size_t>> remaining_;
+    std::vector<std::vector<size_t>> successors_;
+    RunContext* context_;
+    Task* task_;
+    std::shared_ptr<LogFilter> filter_;
+    tbb::task_group group_;
+    std::atomic<bool> failed_{false};
+    std::mutex errorMutex_;
+    std::exception_ptr error_;
+};
+
+} // namespace
+
+ParallelFunctorScheduler::ParallelFunctorScheduler() = default;
+
+ParallelFunctorScheduler::ParallelFunctorScheduler(const ParallelFunctorScheduler& other)
+    : SequentialFunctorScheduler(other)
+{
+}
+
+ParallelFunctorScheduler::~ParallelFunctorScheduler() = default;
+
+void ParallelFunctorScheduler::runImpl()
+{
+    if (getOrder().size() < 2) {
+        SequentialFunctorScheduler::runImpl();
+        return;
+    }
+    ParallelPass pass(getOrder(), getWaits(), getLogTag());
+    pass.run();
+}
+
+} // namespace VRK

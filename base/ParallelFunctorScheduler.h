@@ -1,0 +1,25 @@
+#ifndef VRK_BASE_PARALLELFUNCTORSCHEDULER_H
+#define VRK_BASE_PARALLELFUNCTORSCHEDULER_H
+
+#include "base/SequentialFunctorScheduler.h"
+
+namespace VRK {
+
+// Runs a container's contents on the thread pool: every functor starts as soon as what
+// it depends on has run, so independent functors run at once, as many as the
+// processor count allows. Worker threads work for the caller's run and log under the
+// caller's filter. After a failure no further functor starts; the run then fails with
+// the first error.
+class ParallelFunctorScheduler : public SequentialFunctorScheduler {
+public:
+    ParallelFunctorScheduler();
+    ParallelFunctorScheduler(const ParallelFunctorScheduler& other);
+    ~ParallelFunctorScheduler() override;
+
+protected:
+    void runImpl() override;
+};
+
+} // namespace VRK
+
+#endif
