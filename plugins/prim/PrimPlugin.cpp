@@ -1,7 +1,10 @@
 #include "plugins/prim/PrimRegistrar.h"
 
+#include "base/GraphvizScriptWriter.h"
 #include "base/Plugin.h"
 #include "base/ScannerTypes.h"
+#include "base/XMLScriptReader.h"
+#include "base/XMLScriptWriter.h"
 #include "plugins/prim/BoolData.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/DoubleData.h"
@@ -73,7 +76,12 @@ namespace Prim {
 
 namespace {
 
-void registerHostServices(PrimRegistrar&) {}
+void registerHostServices(PrimRegistrar& registrar)
+{
+    registrar.registerScriptReader<VRK::XMLScriptReader>("XMLScriptReader", "Prim");
+    registrar.registerScriptWriter<VRK::GraphvizScriptWriter>("GraphvizScriptWriter", "Prim");
+    registrar.registerScriptWriter<VRK::XMLScriptWriter>("XMLScriptWriter", "Prim");
+}
 
 // Catalogue order: alphabetical, except "DoWhile" after "MuxValue" and "ValueJunction"
 // before "StringJunction".

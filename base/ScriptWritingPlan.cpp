@@ -1,0 +1,139 @@
+#include "base/ScriptWritingPlan.h"
+
+#include "base/BaseType.h"
+#include "base/ContainerFunctor.h"
+#include "base/DataWriter.h"
+#include "base/ExceptionUtils.h"
+#include "base/FactoryFarmManager.h"
+#include "base/FileException.h"
+#include "base/PortScope.h"
+#include "base/Script.h"
+#include "base/WorkdirBinding.h"
+
+#include <cassert>
+#include <cctype>
+#include <memory>
+#include <set>
+#include <sstream>
+
+namespace VRK {
+
+namespace {
+
+const Functor* peerOwner(const InputPort& port)
+{
+    return port.isBound() ? port.getPeer()->getOwner() : nullptr;
+}
+
+} // namespace
+
+ScriptWritingPlan::ScriptWritingPlan(const Script& script, const Options& options)
+    : script_(script)
+    , options_(options)
+{
+    assignAliases();
+}
+
+void ScriptWritingPlan::forEachFunctor(const FunctorContainer& container,
+                                       const std::function<void(const Functor&)>& visit)
+{
+    for (const auto& functor : container.getFunctors()) {
+        visit(*functor);
+        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
+            forEachFunctor(*inner, visit);
+    }
+}
+
+void ScriptWritingPlan::check(const std::string& filename) const
+{
+    std::set<const Functor*> functors;
+    forEachFunctor(script_, [&](const Functor& functor) { functors.insert(&functor); });
+    auto writers = FactoryFarmManager::Instance().getDataWriterFactory();
+    auto refuse = [&](const std::string& reason) {
+        ExceptionUtils::raise<FileException>("The script cannot be written to \"" + filename
+                                             + "\": " + reason);
+    };
+    forEachFunctor(script_, [&](const Functor& functor) {
+        for (const InputPort* port : PortScope::getAllInputs(functor)) {
+            if (isWrittenBinding(*port) && !functors.count(peerOwner(*port)))
+                refuse("the input \"" + port->getName() + "\" of \"" + functor.getName()
+                       + "\" is bound to a functor outside the script.");
+            if (isWritten(*port) && !port->isBound()
+                && !writers->isRegistered(port->getType()->getName()))
+                refuse("no writer is registered for values of type \"" + port->getType()->getName()
+                       + "\".");
+        }
+    });
+}
+
+bool ScriptWritingPlan::isWrittenBinding(const InputPort& port) const
+{
+    return port.isBound()
+        && (options_.writeHostBindings || !WorkdirBinding::isImplicitlyBound(port));
+}
+
+bool ScriptWritingPlan::isWritten(const InputPort& port) const
+{
+    if (port.isBound())
+        return isWrittenBinding(port);
+    return port.hasDataEditor() && (port.isSet() || options_.writeUnsetValues);
+}
+
+void ScriptWritingPlan::assignAliases()
+{
+    std::set<const Functor*> referenced;
+    std::set<std::string> taken;
+    forEachFunctor(script_, [&](const Functor& functor) {
+        taken.insert(functor.getAlias());
+        for (const InputPort* port : PortScope::getAllInputs(functor))
+            if (isWrittenBinding(*port))
+                referenced.insert(peerOwner(*port));
+    });
+    forEachFunctor(script_, [&](const Functor& functor) {
+        const bool isReferenced = referenced.count(&functor) != 0;
+        if (!functor.getAlias().empty() && (options_.writeAllAliases || isReferenced)) {
+            aliases_[&functor] = functor.getAlias();
+            return;
+        }
+        if (!isReferenced)
+            return;
+        std::string stem = functor.getName();
+        stem[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(stem[0])));
+        for (int number = 1;; ++number) {
+            const std::string candidate = stem + std::to_string(number);
+            if (taken.insert(candidate).second) {
+                aliases_[&functor] = candidate;
+                return;
+            }
+        }
+    });
+}
+
+std::string ScriptWritingPlan::getAlias(const Functor& functor) const
+{
+    auto alias = aliases_.find(&functor);
+    return alias == aliases_.end() ? std::string() : alias->second;
+}
+
+std::string ScriptWritingPlan::getReference(const InputPort& port) const
+{
+    assert(isWrittenBinding(port) && "isWrittenBinding(port)");
+    const DataHolder* peer = port.getPeer();
+    const std::string alias = getAlias(*peer->getOwner());
+    assert(!alias.empty() && "every referenced functor has an alias");
+    return alias + "." + peer->getName();
+}
+
+std::string ScriptWritingPlan::getValueText(const InputPort& port)
+{
+    assert(port.hasDataEditor() && "port.hasDataEditor()");
+    auto factory = FactoryFarmManager::Instance().getDataWriterFactory();
+    std::unique_ptr<DataWriter> writer(
+        factory->create(port.getType()->getName(), port.getDataEditor()));
+    std::ostringstream value;
+    value.precision(17);
+    writer->write(value, 0);
+    return value.str();
+}
+
+} // namespace VRK

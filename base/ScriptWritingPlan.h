@@ -1,0 +1,60 @@
+#ifndef VRK_BASE_SCRIPTWRITINGPLAN_H
+#define VRK_BASE_SCRIPTWRITINGPLAN_H
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace VRK {
+
+class Functor;
+class FunctorContainer;
+class InputPort;
+class Script;
+
+// What a script writer of any format puts down, so that every format says the same:
+// which inputs are written (bindings, and values the modeller set), the alias each
+// functor appears under, and the script text of typed-in values. Functors keep the
+// alias they were read with where it is written; a referenced functor without one gets
+// its lower-cased name and a number that no other alias uses.
+class ScriptWritingPlan {
+public:
+    struct Options {
+        // Also the values of typed-in inputs that the modeller did not set (defaults).
+        bool writeUnsetValues = false;
+        // Every alias, not only those that a binding refers to.
+        bool writeAllAliases = false;
+        // Also the bindings the host makes by itself (work directories).
+        bool writeHostBindings = false;
+    };
+
+    ScriptWritingPlan(const Script& script, const Options& options);
+
+    // Throws a FileException naming `filename` when a written value has no registered
+    // writer or a binding leads out of the script.
+    void check(const std::string& filename) const;
+
+    bool isWritten(const InputPort& port) const;
+    bool isWrittenBinding(const InputPort& port) const;
+    // The alias `functor` is written with; empty when it is written without one.
+    std::string getAlias(const Functor& functor) const;
+    // "alias.port" of a written binding.
+    std::string getReference(const InputPort& port) const;
+    // A typed-in value as the writer of its type prints it; reals keep every digit.
+    static std::string getValueText(const InputPort& port);
+
+    // Every functor in `container`, depth first, in script order.
+    static void forEachFunctor(const FunctorContainer& container,
+                               const std::function<void(const Functor&)>& visit);
+
+private:
+    void assignAliases();
+
+    const Script& script_;
+    Options options_;
+    std::map<const Functor*, std::string> aliases_;
+};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,36 @@
+#ifndef VRK_BASE_XMLSCRIPTREADER_H
+#define VRK_BASE_XMLSCRIPTREADER_H
+
+#include "base/ScriptReader.h"
+
+#include <set>
+#include <string>
+
+namespace VRK {
+
+// Reads XML scripts (".xml"), as XMLScriptWriter writes them. Values are read with the
+// readers registered for the plain scanner; errors name the line and column of the
+// element (or of the value text) they are about. The document is parsed as it stands:
+// no document type is processed and no external entity is fetched.
+class XMLScriptReader : public ScriptReader {
+public:
+    // The scanner under which the readers of values in XML scripts are registered.
+    static const std::string ScannerName;
+    static const std::set<std::string> FileExtensions;
+
+    XMLScriptReader();
+    ~XMLScriptReader() override;
+
+protected:
+    void readImpl(Script* script, std::istream& in, const std::string& filename) override;
+    // Only the script's own properties; creates no functor.
+    void readPropertiesImpl(Script* script, std::istream& in, const std::string& filename) override;
+
+private:
+    static void readText(Script* script, std::istream& in, const std::string& filename,
+                         bool propertiesOnly);
+};
+
+} // namespace VRK
+
+#endif
