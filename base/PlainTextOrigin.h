@@ -11,6 +11,11 @@ namespace VRK {
 // text being read; positions are then counted from it as line 1, column 1, with an
 // empty file name. The outermost mark wins: a nested read of part of the same text
 // keeps counting from the start of the whole text.
+//
+// Whoever builds a plain scanner marks its text before building it: the scanner skips
+// leading white space as it is constructed, so nothing that runs later can tell where
+// the text began. Without a mark, the assertive parser marks the place where the value
+// begins, and columns count from there.
 class PlainTextOrigin {
 public:
     explicit PlainTextOrigin(const char* start);

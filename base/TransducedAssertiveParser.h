@@ -31,8 +31,8 @@ inline ParseError::Position positionOf(const char* where)
     return PlainTextOrigin::positionOf(where);
 }
 
-// Only the plain scanner needs its text's start marked; a position iterator carries
-// its own position.
+// Only the plain scanner needs its text's start marked (see PlainTextOrigin); a
+// position iterator carries its own position.
 template <class IteratorT>
 void markOrigin(std::optional<PlainTextOrigin>&, const IteratorT&)
 {

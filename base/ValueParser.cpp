@@ -30,12 +30,14 @@ void ValueParser::read(DataEditor* editor, const std::string& typeName, const st
 
     const char* first = text.data();
     const char* const last = first + text.size();
+    // Marked before the scanner exists: constructing it skips leading white space.
     const PlainTextOrigin origin(first);
     const PlainScanner scan(first, last);
     reader->read(scan);
     scan.skip(scan);
     if (scan.first != last) {
-        ParseError error("Unexpected text after the value.", PlainTextOrigin::positionOf(scan.first));
+        ParseError error("Unexpected text after the value.",
+                         PlainTextOrigin::positionOf(scan.first));
         ExceptionUtils::logThrow(error);
         throw error;
     }

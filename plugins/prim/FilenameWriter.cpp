@@ -18,7 +18,10 @@ FilenameWriter::~FilenameWriter() = default;
 
 std::ostream& FilenameWriter::write(std::ostream& out, int) const
 {
-    return out << '"' << editor_->getRelativeFilename() << '"';
+    // Outside any work directory a filename has no relative form; its full form is
+    // printed then, since an empty filename would not read back.
+    const std::string relative = editor_->getRelativeFilename();
+    return out << '"' << (relative.empty() ? editor_->getFullFilename() : relative) << '"';
 }
 
 } // namespace Prim

@@ -7,7 +7,8 @@ namespace Prim {
 
 class FilenameEditor;
 
-// Prints a filename between double quotes, in its form relative to the work directory.
+// Prints a filename between double quotes, in its form relative to the work directory
+// (complete when no work directory applies).
 // Companion plugins write their own filename types with it.
 class FilenameWriter : public VRK::DataWriter {
 public:

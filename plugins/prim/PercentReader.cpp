@@ -4,8 +4,6 @@
 #include "plugins/prim/PercentEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
-#include <boost/spirit/include/classic_actor.hpp>
-
 namespace Prim {
 
 template <class ScannerT>
@@ -15,10 +13,19 @@ PercentReader<ScannerT>::PercentReader(VRK::DataEditor* dataEditor)
     using namespace boost::spirit::classic;
     PercentEditor* editor = &PrimEditorUtils::editorOf<PercentEditor>(dataEditor);
     // The "%" is a token of its own: white space and comments may come before it.
-    auto setPercentage = [this, editor](char) { editor->setPercent100(number_); };
-    auto setFraction = [this, editor](auto, auto) { editor->setPercent(number_); };
+    auto setPercent = [this, editor](auto, auto) {
+        if (percentage_)
+            editor->setPercent100(number_);
+        else
+            editor->setPercent(number_);
+    };
+    auto readNumber = [this](double number) {
+        number_ = number;
+        percentage_ = false;
+    };
+    auto markPercentage = [this](char) { percentage_ = true; };
     grammar_ = VRK::Spirit::transduced_assertive_p(
-        real_p[assign_a(number_)] >> (ch_p('%')[setPercentage] | eps_p[setFraction]), message_);
+        (real_p[readNumber] >> !ch_p('%')[markPercentage])[setPercent], message_);
 }
 
 template <class ScannerT>

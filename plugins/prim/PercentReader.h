@@ -25,6 +25,7 @@ private:
     const std::string message_;
     // The number read, kept until it is known whether a "%" follows.
     double number_ = 0.0;
+    bool percentage_ = false;
     boost::spirit::classic::rule<ScannerT> grammar_;
 };
 

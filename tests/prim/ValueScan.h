@@ -1,0 +1,119 @@
+#ifndef TESTS_PRIM_VALUESCAN_H
+#define TESTS_PRIM_VALUESCAN_H
+
+#include "base/DataReader.h"
+#include "base/DefaultSkipGrammar.h"
+#include "base/ParseError.h"
+#include "base/PlainTextOrigin.h"
+#include "base/ScannerTypes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace PrimTest {
+
+// A text under one of the two scanners that value readers are built for, so that one
+// case can be run through both: what a reader consumed, and what it left.
+template <class ScannerT>
+class ValueScan;
+
+template <>
+class ValueScan<VRK::ScriptScanner> {
+public:
+    explicit ValueScan(const std::string& text)
+        : chars_(text.begin(), text.end()), first_(begin(chars_)),
+          scan_(first_, last_, Policies(Iteration(skip_)))
+    {
+    }
+
+    const VRK::ScriptScanner& scanner() const { return scan_; }
+    std::string rest() const { return std::string(first_, last_); }
+    static std::string fileName() { return "file.vrk"; }
+
+private:
+    using Iteration =
+        boost::spirit::classic::skip_parser_iteration_policy<VRK::DefaultSkipGrammar>;
+    using Policies = boost::spirit::classic::scanner_policies<Iteration>;
+
+    // Columns count characters, as the plain scanner's do. Set before the scanner
+    // exists, since constructing it skips leading white space.
+    static VRK::ScriptIterator begin(const std::vector<char>& chars)
+    {
+        VRK::ScriptIterator first(chars.cbegin(), chars.cend(), fileName());
+        first.set_tabchars(1);
+        return first;
+    }
+
+    std::vector<char> chars_;
+    VRK::ScriptIterator first_;
+    VRK::ScriptIterator last_;
+    VRK::DefaultSkipGrammar skip_;
+    VRK::ScriptScanner scan_;
+};
+
+template <>
+class ValueScan<VRK::PlainScanner> {
+public:
+    explicit ValueScan(const std::string& text)
+        : text_(text), origin_(text_.data()), first_(text_.data()),
+          last_(first_ + text_.size()), scan_(first_, last_)
+    {
+    }
+
+    const VRK::PlainScanner& scanner() const { return scan_; }
+    std::string rest() const { return std::string(first_, last_); }
+    static std::string fileName() { return ""; }
+
+private:
+    std::string text_;
+    VRK::PlainTextOrigin origin_;
+    const char* first_;
+    const char* last_;
+    VRK::PlainScanner scan_;
+};
+
+// Runs readers of the scanner ScannerT over texts.
+template <class ScannerT>
+class ValueReading {
+public:
+    // Reads `text` with a ReaderT built on `editor` (and `args`); returns what is left.
+    template <template <class> class ReaderT, class... Args>
+    static std::string read(VRK::DataEditor& editor, const std::string& text, Args... args)
+    {
+        ValueScan<ScannerT> scan(text);
+        const ReaderT<ScannerT> reader(&editor, args...);
+        reader.read(scan.scanner());
+        return scan.rest();
+    }
+
+    // The ParseError that reading `text` raises; a failure of the test if none.
+    template <template <class> class ReaderT, class... Args>
+    static VRK::ParseError readError(VRK::DataEditor& editor, const std::string& text,
+                                     Args... args)
+    {
+        try {
+            read<ReaderT>(editor, text, args...);
+        } catch (const VRK::ParseError& error) {
+            return error;
+        }
+        ADD_FAILURE() << "\"" << text << "\" was read without error";
+        return VRK::ParseError("");
+    }
+
+    // Checks a ParseError's message and its place on the first line of the text.
+    static void expectError(const VRK::ParseError& error, const std::string& message,
+                            int column)
+    {
+        EXPECT_EQ(error.getMessage(), message);
+        ASSERT_TRUE(error.hasPosition()) << message;
+        EXPECT_EQ(error.getPosition().file, ValueScan<ScannerT>::fileName()) << message;
+        EXPECT_EQ(error.getPosition().line, 1) << message;
+        EXPECT_EQ(error.getPosition().column, column) << message;
+    }
+};
+
+} // namespace PrimTest
+
+#endif
