@@ -1,0 +1,73 @@
+#include "base/ScriptFiles.h"
+
+#include "base/AtomicFileWriter.h"
+#include "base/ExceptionUtils.h"
+#include "base/FactoryFarmManager.h"
+#include "base/FileNotFoundException.h"
+#include "base/Script.h"
+#include "base/ScriptReader.h"
+#include "base/ScriptWriter.h"
+
+#include <boost/filesystem/path.hpp>
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+
+namespace VRK {
+
+namespace {
+
+template <class FactoryT>
+auto createFor(const FactoryT& factory, const std::string& filename, const char* kind)
+{
+    const std::string extension = ScriptFiles::getExtension(filename);
+    if (!factory->isRegistered(extension))
+        ExceptionUtils::raise<FileException>(std::string("No script ") + kind
+                                             + " is registered for files ending in \""
+                                             + extension + "\" such as \"" + filename + "\".");
+    return factory->create(extension);
+}
+
+} // namespace
+
+std::string ScriptFiles::getExtension(const std::string& filename)
+{
+    std::string extension = boost::filesystem::path(filename).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
+}
+
+std::shared_ptr<ScriptReader> ScriptFiles::createReader(const std::string& filename)
+{
+    return createFor(FactoryFarmManager::Instance().getScriptReaderFactory(), filename, "reader");
+}
+
+std::shared_ptr<ScriptWriter> ScriptFiles::createWriter(const std::string& filename)
+{
+    return createFor(FactoryFarmManager::Instance().getScriptWriterFactory(), filename, "writer");
+}
+
+std::shared_ptr<Script> ScriptFiles::read(const std::string& filename)
+{
+    std::shared_ptr<ScriptReader> reader = createReader(filename);
+    std::ifstream in(filename, std::ios::binary);
+    if (!in)
+        ExceptionUtils::raise<FileNotFoundException>("The script \"" + filename
+                                                     + "\" cannot be opened.");
+    auto script = std::make_shared<Script>();
+    reader->read(script.get(), in, filename);
+    return script;
+}
+
+void ScriptFiles::write(Script& script, const std::string& filename)
+{
+    std::shared_ptr<ScriptWriter> writer = createWriter(filename);
+    writer->checkCompatibility(&script, filename);
+    AtomicFileWriter::write(filename, [&](std::ostream& out) {
+        writer->write(&script, out, filename);
+    });
+}
+
+} // namespace VRK

@@ -1,0 +1,28 @@
+#ifndef VRK_BASE_WORKDIRBINDING_H
+#define VRK_BASE_WORKDIRBINDING_H
+
+namespace VRK {
+
+class FunctorContainer;
+class InputPort;
+class OutputPort;
+
+// A functor that reads or writes files has an input "workdir" of type Workdir that
+// modellers leave unbound: the host binds it to the internal output "workdir" of the
+// nearest enclosing container that has one. Scripts never spell these bindings out.
+class WorkdirBinding {
+public:
+    // Whether `port` is such a work-directory input.
+    static bool isWorkdirPort(const InputPort& port);
+    // The internal output that `port` takes its work directory from; none when no
+    // enclosing container publishes one.
+    static OutputPort* findImplicitPeer(const InputPort& port);
+    // Whether `port` is bound exactly as the host would bind it.
+    static bool isImplicitlyBound(const InputPort& port);
+    // Binds every unbound work-directory input inside `container`, at every depth.
+    static void bindAll(const FunctorContainer& container);
+};
+
+} // namespace VRK
+
+#endif
