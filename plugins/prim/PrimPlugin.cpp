@@ -2,8 +2,11 @@
 
 #include "base/DefaultScriptReader.h"
 #include "base/DefaultScriptWriter.h"
+#include "base/GraphvizScriptWriter.h"
 #include "base/Plugin.h"
 #include "base/ScannerTypes.h"
+#include "base/XMLScriptReader.h"
+#include "base/XMLScriptWriter.h"
 #include "plugins/prim/BoolData.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/DoubleData.h"
@@ -78,7 +81,10 @@ namespace {
 void registerHostServices(PrimRegistrar& registrar)
 {
     registrar.registerScriptReader<VRK::DefaultScriptReader>("DefaultScriptReader", "Prim");
+    registrar.registerScriptReader<VRK::XMLScriptReader>("XMLScriptReader", "Prim");
     registrar.registerScriptWriter<VRK::DefaultScriptWriter>("DefaultScriptWriter", "Prim");
+    registrar.registerScriptWriter<VRK::GraphvizScriptWriter>("GraphvizScriptWriter", "Prim");
+    registrar.registerScriptWriter<VRK::XMLScriptWriter>("XMLScriptWriter", "Prim");
 }
 
 // Catalogue order: alphabetical, except "DoWhile" after "MuxValue" and "ValueJunction"
