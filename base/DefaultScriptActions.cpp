@@ -94,7 +94,8 @@ void DefaultScriptActions::unterminatedFunctor(const ScriptIterator& first, cons
 {
     ScriptIterator end = first;
     std::string word;
-    while (end != ScriptIterator() && (std::isalnum(static_cast<unsigned char>(*end)) || *end == '_'))
+    while (end != ScriptIterator()
+           && (std::isalnum(static_cast<unsigned char>(*end)) || *end == '_'))
         word += *end++;
     ScriptIterator next = end;
     while (next != ScriptIterator() && std::isspace(static_cast<unsigned char>(*next)))
@@ -149,8 +150,8 @@ std::ptrdiff_t DefaultScriptActions::value(const ScriptScanner& scan)
 {
     assert(port_ != 0 && "port_ != 0");
     scan.skip(scan);
-    auto reader =
-        builder_.createValueReader<ScriptScanner>(*port_, ScriptScannerName, positionOf(scan.first));
+    auto reader = builder_.createValueReader<ScriptScanner>(*port_, ScriptScannerName,
+                                                            positionOf(scan.first));
     const std::ptrdiff_t length = reader->read(scan);
     checkValueEnd(scan);
     return length;

@@ -111,7 +111,8 @@ DefaultScriptWriter::Aliases DefaultScriptWriter::assignAliases(const Script& sc
     });
     Aliases aliases;
     forEachFunctor(script, [&](const Functor& functor) {
-        const bool keep = !functor.getAlias().empty() && (writeAllAliases_ || referenced.count(&functor));
+        const bool keep =
+            !functor.getAlias().empty() && (writeAllAliases_ || referenced.count(&functor));
         if (keep)
             aliases[&functor] = functor.getAlias();
         if (keep || !referenced.count(&functor))

@@ -122,9 +122,11 @@ void FunctorDependencies::raiseCycle(const std::vector<size_t>& unordered) const
             names += position + 1 == walk.size() ? " and " : ", ";
         names += functors_[walk[position]]->getDisplayName();
     }
-    ExceptionUtils::raise<GraphException>("The " + names
-                                          + " depend on each other in a cycle that no feedback"
-                                            " port closes.");
+    // Diagnostics point at the first functor of the cycle in script order.
+    ExceptionUtils::raiseAt<GraphException>(functors_[walk.front()]->getPosition(),
+                                            "The " + names
+                                                + " depend on each other in a cycle that no "
+                                                  "feedback port closes.");
 }
 
 Functor* FunctorDependencies::liftToContainer(Functor* functor, const FunctorContainer& container)

@@ -88,9 +88,13 @@ void ScriptBuilder::checkContainment(Functor& functor, const ScriptPosition& pos
 {
     auto* container = dynamic_cast<ContainerFunctor*>(frames_.back().container);
     if (container && !container->isCompatible(&functor))
-        ExceptionUtils::raiseAt<ParseError>(position, "The functor " + quoted(functor.getName())
-                                                          + " cannot be placed inside "
-                                                          + describe(*container) + ".");
+        ExceptionUtils::raiseAt<ParseError>(position, refusedContentMessage(functor, *container));
+}
+
+std::string ScriptBuilder::refusedContentMessage(const Functor& functor, const Functor& container)
+{
+    return "The functor " + quoted(functor.getName()) + " cannot be placed inside "
+           + describe(container) + ".";
 }
 
 void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
@@ -156,7 +160,8 @@ InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition
 std::string ScriptBuilder::unknownPortMessage(const Functor& functor, const std::string& name)
 {
     const std::vector<InputPort*> inputs = PortScope::getAllInputs(functor);
-    std::string message = "The functor " + describe(functor) + " has no input " + quoted(name) + ".";
+    std::string message =
+        "The functor " + describe(functor) + " has no input " + quoted(name) + ".";
     if (inputs.empty())
         return message + " It has no inputs.";
     return message + " Its inputs are "

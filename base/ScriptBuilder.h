@@ -78,6 +78,8 @@ public:
 
     // How messages name a functor: its alias and name, or its name.
     static std::string describe(const Functor& functor);
+    // What is said when a container does not accept a functor.
+    static std::string refusedContentMessage(const Functor& functor, const Functor& container);
 
 private:
     struct Frame {

@@ -3,6 +3,8 @@
 #include "base/DefaultScriptReader.h"
 #include "base/DefaultScriptWriter.h"
 #include "base/GraphvizScriptWriter.h"
+#include "base/IntrusiveScriptVerifier.h"
+#include "base/NonIntrusiveScriptVerifier.h"
 #include "base/Plugin.h"
 #include "base/ScannerTypes.h"
 #include "base/XMLScriptReader.h"
@@ -80,6 +82,9 @@ namespace {
 
 void registerHostServices(PrimRegistrar& registrar)
 {
+    registrar.registerScriptVerifier<VRK::IntrusiveScriptVerifier>("IntrusiveScriptVerifier", "Prim");
+    registrar.registerScriptVerifier<VRK::NonIntrusiveScriptVerifier>("NonIntrusiveScriptVerifier",
+                                                                      "Prim");
     registrar.registerScriptReader<VRK::DefaultScriptReader>("DefaultScriptReader", "Prim");
     registrar.registerScriptReader<VRK::XMLScriptReader>("XMLScriptReader", "Prim");
     registrar.registerScriptWriter<VRK::DefaultScriptWriter>("DefaultScriptWriter", "Prim");

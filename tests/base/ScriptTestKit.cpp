@@ -2,6 +2,7 @@
 
 #include "base/ContainerFunctor.h"
 #include "base/DataEditor.h"
+#include "base/DataException.h"
 #include "base/DataReader.h"
 #include "base/DataWriter.h"
 #include "base/DefaultScriptReader.h"
@@ -206,6 +207,21 @@ public:
     void runImpl() override {}
 };
 
+class TestPrepared : public VRK::Functor {
+public:
+    TestPrepared() : Functor("TestPrepared", "Must be prepared before it is verified", nullptr) {}
+    void prepare() override { prepared_ = true; }
+    void verify() override
+    {
+        if (!prepared_)
+            VRK::ExceptionUtils::raise<VRK::DataException>("The functor was not prepared.");
+    }
+    void runImpl() override {}
+
+private:
+    bool prepared_ = false;
+};
+
 class TestBox : public VRK::ContainerFunctor {
 public:
     TestBox() : ContainerFunctor("TestBox", "Holds functors", nullptr)
@@ -302,6 +318,7 @@ void registerAll()
         registerFunctor<TestJunction>("TestJunction");
         registerFunctor<TestFiler>("TestFiler");
         registerFunctor<TestRefused>("TestRefused");
+        registerFunctor<TestPrepared>("TestPrepared");
         registerFunctor<TestBox>("TestBox", {"TestBlock"});
         registerFunctor<TestWorkdir>("TestWorkdir");
         auto& farm = VRK::FactoryFarmManager::Instance();

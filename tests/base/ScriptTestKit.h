@@ -20,6 +20,7 @@
 //                   internal input "condition" (TestNumber); refuses TestRefused
 //   TestWorkdir     container; internal output "workdir" (Workdir)
 //   TestRefused     no ports
+//   TestPrepared    no ports; its verify fails unless it was prepared
 // "TestBlock" is an alias of "TestBox".
 
 #include "base/Script.h"

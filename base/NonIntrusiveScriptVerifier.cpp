@@ -1,0 +1,194 @@
+#include "base/NonIntrusiveScriptVerifier.h"
+
+#include "base/BaseType.h"
+#include "base/ContainerFunctor.h"
+#include "base/DataException.h"
+#include "base/ExceptionUtils.h"
+#include "base/FunctorDependencies.h"
+#include "base/GraphException.h"
+#include "base/PortScope.h"
+#include "base/Script.h"
+#include "base/ScriptBuilder.h"
+#include "base/StrongInputPort.h"
+#include "base/TypeCompatibility.h"
+#include "base/TypeException.h"
+#include "base/UndefinedNodeException.h"
+#include "base/WorkdirBinding.h"
+
+#include <functional>
+
+namespace VRK {
+
+namespace {
+
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+std::string typeName(const DataHolder& holder)
+{
+    return holder.getType() ? quoted(holder.getType()->getName()) : std::string("no type");
+}
+
+// "The input "value" of "s" (TestSink)"
+std::string inputOf(const InputPort& port)
+{
+    return std::string(PortScope::isInternalInput(port) ? "The internal input " : "The input ")
+           + quoted(port.getName()) + " of " + ScriptBuilder::describe(*port.getOwner());
+}
+
+// Where a port's problem shows: where the script set it, else at its functor.
+ScriptPosition positionOf(const InputPort& port)
+{
+    return port.getPosition().isKnown() ? port.getPosition() : port.getOwner()->getPosition();
+}
+
+void collectOutputs(const FunctorContainer& container, std::set<const DataHolder*>& outputs)
+{
+    for (const auto& functor : container.getFunctors()) {
+        for (const auto& port : functor->getOutputPorts())
+            outputs.insert(port.get());
+        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
+            for (const auto& port : inner->getInternalOutputPorts())
+                outputs.insert(port.get());
+            collectOutputs(*inner, outputs);
+        }
+    }
+}
+
+} // namespace
+
+NonIntrusiveScriptVerifier::NonIntrusiveScriptVerifier() = default;
+
+NonIntrusiveScriptVerifier::~NonIntrusiveScriptVerifier() = default;
+
+void NonIntrusiveScriptVerifier::verifyImpl(Script* script)
+{
+    checkStructure(*script);
+    verifyFunctors(*script);
+}
+
+void NonIntrusiveScriptVerifier::checkStructure(const Script& script) const
+{
+    std::set<const DataHolder*> outputs;
+    collectOutputs(script, outputs);
+    std::function<void(const FunctorContainer&)> walk = [&](const FunctorContainer& container) {
+        for (const auto& functor : container.getFunctors()) {
+            checkFunctor(*functor, outputs);
+            if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
+                checkContents(*inner);
+                walk(*inner);
+            }
+        }
+    };
+    walk(script);
+    checkCycles(script);
+}
+
+void NonIntrusiveScriptVerifier::checkFunctor(const Functor& functor,
+                                              const std::set<const DataHolder*>& outputs) const
+{
+    for (const InputPort* port : PortScope::getAllInputs(functor))
+        checkBinding(*port, outputs);
+    checkRequiredInputs(functor);
+}
+
+void NonIntrusiveScriptVerifier::checkBinding(const InputPort& port,
+                                              const std::set<const DataHolder*>& outputs) const
+{
+    if (!port.isBound())
+        return;
+    const DataHolder* peer = port.getPeer();
+    if (!outputs.count(peer))
+        ExceptionUtils::raiseAt<UndefinedNodeException>(
+            positionOf(port),
+            inputOf(port) + " is bound to an output that is not part of the script.");
+    const Functor& producer = *peer->getOwner();
+    if (PortScope::isInternalOutput(*peer)
+        && !PortScope::isWithin(PortScope::getReadingContainer(port), producer))
+        ExceptionUtils::raiseAt<GraphException>(
+            positionOf(port), inputOf(port) + " reads the internal output "
+                                  + quoted(peer->getName()) + " of "
+                                  + ScriptBuilder::describe(producer) + " from outside it.");
+    if (!TypeCompatibility::isCompatible(peer->getType(), port.getType()))
+        ExceptionUtils::raiseAt<TypeException>(
+            positionOf(port), inputOf(port) + ", of type " + typeName(port)
+                                  + ", cannot be bound to the output " + quoted(peer->getName())
+                                  + " of " + ScriptBuilder::describe(producer) + ", of type "
+                                  + typeName(*peer) + ".");
+    // An input is pulled before its functor runs: it cannot wait for the functor's own
+    // outputs, nor for those of its contents, unless it carries the previous pass.
+    const Functor& reader = *port.getOwner();
+    if (!port.isFeedback() && !PortScope::isInternalInput(port)
+        && (&producer == &reader || PortScope::isWithin(producer.getContainer(), reader)))
+        ExceptionUtils::raiseAt<GraphException>(
+            positionOf(port), inputOf(port) + " reads an output produced by the functor itself: "
+                                              "a cycle that no feedback port closes.");
+}
+
+void NonIntrusiveScriptVerifier::checkRequiredInputs(const Functor& functor) const
+{
+    std::vector<const InputPort*> alternatives;
+    for (const auto& port : functor.getInputPorts()) {
+        if (port->isFeedback() || port->isOptional() || WorkdirBinding::isWorkdirPort(*port))
+            continue;
+        if (dynamic_cast<const StrongInputPort*>(port.get())) {
+            alternatives.push_back(port.get());
+            continue;
+        }
+        if (!port->isSet())
+            ExceptionUtils::raiseAt<DataException>(
+                functor.getPosition(), inputOf(*port) + " is required but neither set nor bound.");
+    }
+    bool oneBound = alternatives.empty();
+    std::string names;
+    for (size_t i = 0; i < alternatives.size(); ++i) {
+        oneBound = oneBound || alternatives[i]->isBound();
+        names += (i == 0 ? "" : i + 1 == alternatives.size() ? " and " : ", ")
+                 + quoted(alternatives[i]->getName());
+    }
+    if (!oneBound)
+        ExceptionUtils::raiseAt<DataException>(
+            functor.getPosition(),
+            alternatives.size() == 1
+                ? inputOf(*alternatives[0]) + " is required but not bound."
+                : "None of the inputs " + names + " of " + ScriptBuilder::describe(functor)
+                      + " is bound: one of them must be.");
+    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+        for (const auto& port : container->getInternalInputPorts())
+            if (!port->isOptional() && !port->isBound())
+                ExceptionUtils::raiseAt<DataException>(
+                    functor.getPosition(),
+                    inputOf(*port) + " is not bound to an output of the functors inside it.");
+}
+
+void NonIntrusiveScriptVerifier::checkContents(const ContainerFunctor& container) const
+{
+    for (const auto& functor : container.getFunctors())
+        if (!container.isCompatible(functor.get()))
+            ExceptionUtils::raiseAt<TypeException>(
+                functor->getPosition(), ScriptBuilder::refusedContentMessage(*functor, container));
+}
+
+void NonIntrusiveScriptVerifier::checkCycles(const FunctorContainer& container) const
+{
+    FunctorDependencies(container).getOrder();
+    for (const auto& functor : container.getFunctors())
+        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
+            checkCycles(*inner);
+}
+
+void NonIntrusiveScriptVerifier::verifyFunctors(const FunctorContainer& container) const
+{
+    for (const auto& functor : container.getFunctors()) {
+        try {
+            functor->verify();
+        } catch (Exception& error) {
+            if (!error.hasScriptPosition())
+                error.setScriptPosition(functor->getPosition());
+            throw;
+        }
+        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
+            verifyFunctors(*inner);
+    }
+}
+
+} // namespace VRK
