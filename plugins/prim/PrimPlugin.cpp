@@ -1,5 +1,9 @@
 #include "plugins/prim/PrimRegistrar.h"
 
+#include "base/AutoFunctorScheduler.h"
+#include "base/LightFunctorScheduler.h"
+#include "base/ParallelFunctorScheduler.h"
+#include "base/SequentialFunctorScheduler.h"
 #include "base/DefaultScriptReader.h"
 #include "base/DefaultScriptWriter.h"
 #include "base/GraphvizScriptWriter.h"
@@ -75,6 +79,19 @@
 #include "plugins/prim/StringFunctor.h"
 #include "plugins/prim/StringJunctionFunctor.h"
 #include "plugins/prim/ValueJunctionFunctor.h"
+#include "plugins/prim/DoWhileFunctor.h"
+#include "plugins/prim/ForFunctor.h"
+#include "plugins/prim/GroupFunctor.h"
+#include "plugins/prim/IfNotThenFunctor.h"
+#include "plugins/prim/IfThenFunctor.h"
+#include "plugins/prim/LogPolicyFunctor.h"
+#include "plugins/prim/MuxValueFunctor.h"
+#include "plugins/prim/ProcessorPolicyFunctor.h"
+#include "plugins/prim/RepeatFunctor.h"
+#include "plugins/prim/SetWhileConditionFunctor.h"
+#include "plugins/prim/SkipOnErrorFunctor.h"
+#include "plugins/prim/StepFunctor.h"
+#include "plugins/prim/WhileFunctor.h"
 
 namespace Prim {
 
@@ -82,6 +99,12 @@ namespace {
 
 void registerHostServices(PrimRegistrar& registrar)
 {
+    registrar.registerFunctorScheduler<VRK::AutoFunctorScheduler>("AutoFunctorScheduler", "Prim");
+    registrar.registerFunctorScheduler<VRK::LightFunctorScheduler>("LightFunctorScheduler", "Prim");
+    registrar.registerFunctorScheduler<VRK::ParallelFunctorScheduler>("ParallelFunctorScheduler",
+                                                                      "Prim");
+    registrar.registerFunctorScheduler<VRK::SequentialFunctorScheduler>(
+        "SequentialFunctorScheduler", "Prim");
     registrar.registerScriptVerifier<VRK::IntrusiveScriptVerifier>("IntrusiveScriptVerifier", "Prim");
     registrar.registerScriptVerifier<VRK::NonIntrusiveScriptVerifier>("NonIntrusiveScriptVerifier",
                                                                       "Prim");
@@ -101,18 +124,31 @@ void registerFunctors(PrimRegistrar& registrar)
     registrar.registerFunctor<Exit>("Exit", "Control");
     registrar.registerFunctor<Folder>("Folder", "Map Algebra (Suppl.)");
     registrar.registerFunctor<FolderJunction>("FolderJunction", "Control");
+    registrar.registerFunctor<For>("For", "Control");
+    registrar.registerFunctor<Group>("Group", "Control", {"Block"});
+    registrar.registerFunctor<IfNotThen>("IfNotThen", "Control");
+    registrar.registerFunctor<IfThen>("IfThen", "Control");
     registrar.registerFunctor<Int>("Int", "Map Algebra (Suppl.)");
     registrar.registerFunctor<IntSet>("IntSet", "Map Algebra (Suppl.)", {"IntList"});
+    registrar.registerFunctor<LogPolicy>("LogPolicy", "Control");
     registrar.registerFunctor<LogTag>("LogTag", "Control (Suppl.)");
+    registrar.registerFunctor<MuxValue>("MuxValue", "Control", {"MuxDouble"});
+    registrar.registerFunctor<DoWhile>("DoWhile", "Control");
     registrar.registerFunctor<Name>("Name", "Map Algebra (Suppl.)");
     registrar.registerFunctor<NonNegativeInt>("NonNegativeInt", "Map Algebra (Suppl.)");
     registrar.registerFunctor<Path>("Path", "Map Algebra (Suppl.)");
     registrar.registerFunctor<Percent>("Percent", "Map Algebra (Suppl.)");
     registrar.registerFunctor<PositiveInt>("PositiveInt", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<ProcessorPolicy>("ProcessorPolicy", "Control");
+    registrar.registerFunctor<Repeat>("Repeat", "Control");
+    registrar.registerFunctor<SetWhileCondition>("SetWhileCondition", "Control");
+    registrar.registerFunctor<SkipOnError>("SkipOnError", "Control");
+    registrar.registerFunctor<Step>("Step", "Control");
     registrar.registerFunctor<String>("String", "Map Algebra (Suppl.)");
     registrar.registerFunctor<ValueJunction>("ValueJunction", "Control",
                                              {"JoinDouble", "JoinValue"});
     registrar.registerFunctor<StringJunction>("StringJunction", "Control");
+    registrar.registerFunctor<While>("While", "Control");
 }
 
 // The types come first, so that the host can list them before any script names one.

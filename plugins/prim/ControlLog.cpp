@@ -1,0 +1,10 @@
+#include "plugins/prim/ControlLog.h"
+
+namespace Prim {
+
+void ControlLog::debug(const std::string& text)
+{
+    log(VRK::debug, [&](std::ostream& line) { line << text; });
+}
+
+} // namespace Prim

@@ -1,0 +1,48 @@
+#ifndef PRIM_CONTROLLOG_H
+#define PRIM_CONTROLLOG_H
+
+#include "base/LogTag.h"
+#include "base/Logger.h"
+
+#include <sstream>
+#include <string>
+
+namespace Prim {
+
+// The log lines of the control-flow functors: written to the current thread's logger,
+// only when it keeps the tag, through a stream of precision 20. A line is composed only
+// when it will be kept, so that loops pay nothing per pass for hidden lines.
+class ControlLog {
+public:
+    // `write` puts the line into the stream it is given.
+    template <class Writer>
+    static void log(VRK::LogTag tag, Writer write)
+    {
+        VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
+        if (!logger->isLogging(tag))
+            return;
+        std::ostringstream line;
+        line.precision(20);
+        write(line);
+        logger->log(tag, line.str(), false);
+    }
+
+    static void debug(const std::string& text);
+
+    // Brackets one run of a block's contents, `step`, with "<name>: Running single
+    // step:" and "<name>: Single step completed successfully.". A failure of the step
+    // leaves out the second line.
+    template <class Step>
+    static void singleStep(const char* name, Step step)
+    {
+        log(VRK::debug, [&](std::ostream& line) { line << name << ": Running single step:"; });
+        step();
+        log(VRK::debug, [&](std::ostream& line) {
+            line << name << ": Single step completed successfully.";
+        });
+    }
+};
+
+} // namespace Prim
+
+#endif

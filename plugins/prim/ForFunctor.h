@@ -1,0 +1,24 @@
+#ifndef PRIM_FORFUNCTOR_H
+#define PRIM_FORFUNCTOR_H
+
+#include "base/ContainerFunctor.h"
+
+namespace Prim {
+
+// Runs its contents once for each step from "firstIterationStep" to
+// "lastIterationStep", both included, ascending by "stepIncrement", publishing the
+// step on its internal output "step".
+class For : public VRK::ContainerFunctor {
+public:
+    For();
+    For(const For&) = default;
+    ~For() override;
+
+    void runImpl() override;
+    bool isCompatible(VRK::Functor* functor) const override;
+    void runContainerImpl() override;
+};
+
+} // namespace Prim
+
+#endif

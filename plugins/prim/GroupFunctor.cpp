@@ -1,0 +1,17 @@
+#include "plugins/prim/GroupFunctor.h"
+
+#include "base/ContainerFunctorUtils.h"
+#include "plugins/prim/ControlLog.h"
+
+namespace Prim {
+
+Group::Group() : ContainerFunctor("Group", "Execute contained functors", nullptr) {}
+
+Group::~Group() = default;
+
+void Group::runContainerImpl()
+{
+    ControlLog::singleStep("Group", [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
+}
+
+} // namespace Prim

@@ -1,0 +1,20 @@
+#ifndef PRIM_GROUPFUNCTOR_H
+#define PRIM_GROUPFUNCTOR_H
+
+#include "base/ContainerFunctor.h"
+
+namespace Prim {
+
+// Runs its contents once per run: a box that keeps a part of a script together.
+class Group : public VRK::ContainerFunctor {
+public:
+    Group();
+    Group(const Group&) = default;
+    ~Group() override;
+
+    void runContainerImpl() override;
+};
+
+} // namespace Prim
+
+#endif

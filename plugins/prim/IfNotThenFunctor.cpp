@@ -1,0 +1,31 @@
+#include "plugins/prim/IfNotThenFunctor.h"
+
+#include "base/ContainerFunctorUtils.h"
+#include "plugins/prim/BoolType.h"
+#include "plugins/prim/ControlLog.h"
+
+namespace Prim {
+
+IfNotThen::IfNotThen()
+    : ContainerFunctor("IfNotThen", "Execute contained functors conditionally.", nullptr)
+{
+    addInputPort("condition", "", BoolType::getInstance(), false);
+}
+
+IfNotThen::~IfNotThen() = default;
+
+void IfNotThen::runImpl()
+{
+    if (!getInputPortValue<BoolData>("condition"))
+        ControlLog::singleStep("IfNotThen", [this] { ContainerFunctor::runImpl(); });
+}
+
+bool IfNotThen::isCompatible(VRK::Functor* functor) const
+{
+    assert(functor != 0 && "functor != 0");
+    return true;
+}
+
+void IfNotThen::runContainerImpl() { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); }
+
+} // namespace Prim

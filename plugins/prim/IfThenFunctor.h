@@ -1,0 +1,22 @@
+#ifndef PRIM_IFTHENFUNCTOR_H
+#define PRIM_IFTHENFUNCTOR_H
+
+#include "base/ContainerFunctor.h"
+
+namespace Prim {
+
+// Runs its contents once when its "condition" is true; otherwise does nothing.
+class IfThen : public VRK::ContainerFunctor {
+public:
+    IfThen();
+    IfThen(const IfThen&) = default;
+    ~IfThen() override;
+
+    void runImpl() override;
+    bool isCompatible(VRK::Functor* functor) const override;
+    void runContainerImpl() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,34 @@
+#include "plugins/prim/MuxValueFunctor.h"
+
+#include "base/FeedbackStrongInputPort.h"
+#include "base/Singleton.h"
+#include "plugins/prim/ControlLog.h"
+#include "plugins/prim/DoubleType.h"
+#include "plugins/prim/MultiplexerType.h"
+
+namespace Prim {
+
+MuxValue::MuxValue()
+    : Functor("MuxValue", "Initiate and feedback a loop variable containing a value.",
+              VRK::Singleton<MultiplexerType>::getInstance())
+{
+    addInputPort("initial", "Initial value.", DoubleType::getInstance(), false, {"first"});
+    addInputPort(VRK::FeedbackStrongInputPort("feedback", "Value generated from model step.",
+                                              DoubleType::getInstance()));
+    addOutputPort("value", "Value.", DoubleType::getInstance());
+    setFlag(3, true);
+}
+
+MuxValue::~MuxValue() = default;
+
+void MuxValue::runImpl()
+{
+    const bool fed = getInputPort("feedback")->hasData();
+    setOutputPortValue<DoubleData>("value", getInputPortValue<DoubleData>(fed ? "feedback" : "initial"));
+    ControlLog::log(VRK::debug, [&](std::ostream& line) {
+        line << "Functor \"" << getName() << ":" << static_cast<const void*>(this) << "\" forwarded the "
+             << (fed ? "feedback" : "initial") << " data.";
+    });
+}
+
+} // namespace Prim

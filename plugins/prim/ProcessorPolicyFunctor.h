@@ -1,0 +1,22 @@
+#ifndef PRIM_PROCESSORPOLICYFUNCTOR_H
+#define PRIM_PROCESSORPOLICYFUNCTOR_H
+
+#include "base/ContainerFunctor.h"
+
+namespace Prim {
+
+// Runs its contents once under a processor count of its own, process-wide: without
+// forcing it can only lower the count. The count it found comes back afterwards, also
+// after an error.
+class ProcessorPolicy : public VRK::ContainerFunctor {
+public:
+    ProcessorPolicy();
+    ProcessorPolicy(const ProcessorPolicy&) = default;
+    ~ProcessorPolicy() override;
+
+    void runContainerImpl() override;
+};
+
+} // namespace Prim
+
+#endif

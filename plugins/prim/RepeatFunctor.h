@@ -1,0 +1,23 @@
+#ifndef PRIM_REPEATFUNCTOR_H
+#define PRIM_REPEATFUNCTOR_H
+
+#include "base/ContainerFunctor.h"
+
+namespace Prim {
+
+// Runs its contents "iterations" times, publishing the step, counted from 1, on its
+// internal output "step".
+class Repeat : public VRK::ContainerFunctor {
+public:
+    Repeat();
+    Repeat(const Repeat&) = default;
+    ~Repeat() override;
+
+    void runImpl() override;
+    bool isCompatible(VRK::Functor* functor) const override;
+    void runContainerImpl() override;
+};
+
+} // namespace Prim
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef PRIM_STEPFUNCTOR_H
+#define PRIM_STEPFUNCTOR_H
+
+#include "base/Functor.h"
+
+namespace Prim {
+
+// Passes the enclosing loop's step, read on its input "step", on to other functors.
+class Step : public VRK::Functor {
+public:
+    Step();
+    Step(const Step&) = default;
+    Step& operator=(const Step&) = default;
+    ~Step() override;
+
+    void runImpl() override;
+};
+
+} // namespace Prim
+
+#endif
