@@ -2,10 +2,10 @@
 
 #include "base/DefaultScriptActions.h"
 #include "base/FactoryFarmManager.h"
+#include "base/ScriptTextScanner.h"
 #include "base/TransducedAssertiveParser.h"
 
 #include <type_traits>
-#include <vector>
 
 namespace VRK {
 
@@ -123,16 +123,8 @@ DefaultScriptGrammar::DefaultScriptGrammar(DefaultScriptActions& actions, bool p
 
 void DefaultScriptGrammar::read(const std::string& text, const std::string& filename) const
 {
-    const std::vector<char> characters(text.begin(), text.end());
-    // Columns count characters: a tab is one column, as the caret line reproduces it.
-    ScriptIterator first(characters.begin(), characters.end(), ScriptFilePosition(filename));
-    first.set_tabchars(1);
-    const ScriptIterator last;
-    const DefaultSkipGrammar skipper;
-    using Policies = ScriptScanner::policies_t;
-    const ScriptScanner scan(first, last,
-                             Policies(skip_parser_iteration_policy<DefaultSkipGrammar>(skipper)));
-    boost::spirit::classic::grammar<DefaultScriptGrammar>::parse(scan);
+    const ScriptTextScanner scanner(text, filename);
+    boost::spirit::classic::grammar<DefaultScriptGrammar>::parse(scanner.getScanner());
 }
 
 } // namespace VRK

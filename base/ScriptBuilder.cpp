@@ -140,15 +140,22 @@ Functor& ScriptBuilder::getCurrentFunctor() const
     return *current;
 }
 
-InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition& position)
+InputPort& ScriptBuilder::findInput(const Functor& functor, const std::string& name,
+                                    const ScriptPosition& position)
 {
-    Functor& functor = getCurrentFunctor();
     InputPort* port = functor.getInputPort(name);
     if (!port)
-        if (auto* container = dynamic_cast<ContainerFunctor*>(&functor))
+        if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
             port = container->getInternalInputPort(name);
     if (!port)
         ExceptionUtils::raiseAt<ParseError>(position, unknownPortMessage(functor, name));
+    return *port;
+}
+
+InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition& position)
+{
+    Functor& functor = getCurrentFunctor();
+    InputPort* port = &findInput(functor, name, position);
     if (!givenPorts_.insert(port).second)
         ExceptionUtils::raiseAt<ParseError>(position, "The input " + quoted(port->getName())
                                                           + " of " + describe(functor)

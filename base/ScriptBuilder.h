@@ -69,13 +69,18 @@ public:
             ExceptionUtils::raiseAt<ParseError>(position, noReaderMessage(typeName));
         return std::unique_ptr<DataReader<ScannerT>>(factory->create(typeName, &editor));
     }
-    // Reads `text`, which stands at `position`, as the value of `port`.
-    void setValueText(InputPort& port, const std::string& text, const ScriptPosition& position);
+    // Reads `text`, which stands at `position`, as the value of `port` (values of XML
+    // scripts, parameter files and the command line).
+    static void setValueText(InputPort& port, const std::string& text, const ScriptPosition& position);
 
     // Resolves the bindings and binds work directories; throws at the first reference
     // that does not resolve.
     void finish();
 
+    // The input `name` of `functor`: its name, a port alias, or a container's internal
+    // input.
+    static InputPort& findInput(const Functor& functor, const std::string& name,
+                                const ScriptPosition& position);
     // How messages name a functor: its alias and name, or its name.
     static std::string describe(const Functor& functor);
     // What is said when a container does not accept a functor.
@@ -93,7 +98,7 @@ private:
         ScriptPosition position;
     };
 
-    DataEditor& takeValueEditor(InputPort& port, const ScriptPosition& position);
+    static DataEditor& takeValueEditor(InputPort& port, const ScriptPosition& position);
     void registerAlias(Functor& functor, const std::string& alias, const ScriptPosition& position);
     void checkContainment(Functor& functor, const ScriptPosition& position) const;
     void resolve(const PendingBinding& binding) const;

@@ -6,6 +6,8 @@
 #include "base/SequentialFunctorScheduler.h"
 #include "base/DefaultScriptReader.h"
 #include "base/DefaultScriptWriter.h"
+#include "base/DefaultWizardReader.h"
+#include "base/DefaultWizardWriter.h"
 #include "base/GraphvizScriptWriter.h"
 #include "base/IntrusiveScriptVerifier.h"
 #include "base/NonIntrusiveScriptVerifier.h"
@@ -110,9 +112,11 @@ void registerHostServices(PrimRegistrar& registrar)
                                                                       "Prim");
     registrar.registerScriptReader<VRK::DefaultScriptReader>("DefaultScriptReader", "Prim");
     registrar.registerScriptReader<VRK::XMLScriptReader>("XMLScriptReader", "Prim");
+    registrar.registerWizardReader<VRK::DefaultWizardReader>("DefaultWizardReader", "Prim");
     registrar.registerScriptWriter<VRK::DefaultScriptWriter>("DefaultScriptWriter", "Prim");
     registrar.registerScriptWriter<VRK::GraphvizScriptWriter>("GraphvizScriptWriter", "Prim");
     registrar.registerScriptWriter<VRK::XMLScriptWriter>("XMLScriptWriter", "Prim");
+    registrar.registerWizardWriter<VRK::DefaultWizardWriter>("DefaultWizardWriter", "Prim");
 }
 
 // Catalogue order: alphabetical, except "DoWhile" after "MuxValue" and "ValueJunction"
