@@ -1,12 +1,25 @@
 #include "base/Script.h"
 
 #include "base/ContainerFunctor.h"
+#include "base/ContainerFunctorUtils.h"
+#include "base/FactoryFarmManager.h"
+#include "base/HookFunctor.h"
+#include "base/LightFunctorScheduler.h"
+#include "base/RunContext.h"
+#include "base/ScriptVerifier.h"
+#include "base/Task.h"
+#include "base/WorkdirBinding.h"
 
+#include <algorithm>
 #include <cassert>
+#include <memory>
 
 namespace VRK {
 
 namespace {
+
+const char* const RunVerifierName = "NonIntrusiveScriptVerifier";
+
 Functor* findIn(const FunctorContainer& container, const std::string& alias)
 {
     for (const auto& functor : container.getFunctors()) {
@@ -18,23 +31,137 @@ Functor* findIn(const FunctorContainer& container, const std::string& alias)
     }
     return nullptr;
 }
+
+// Empties every port inside `container`, feedback ports and internal ports included.
+void emptyPorts(const FunctorContainer& container)
+{
+    for (const auto& functor : container.getFunctors()) {
+        functor->resetOutputPortData(false);
+        functor->resetInputPortData(true);
+        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
+            for (const auto& port : inner->getInternalOutputPorts())
+                port->resetData();
+            emptyPorts(*inner);
+        }
+    }
+}
+
+// Whether every output of `functor`, internal ones included, holds data (and it has one).
+bool hasProduced(const Functor& functor)
+{
+    std::vector<const DataHolder*> outputs;
+    for (const auto& port : functor.getOutputPorts())
+        outputs.push_back(port.get());
+    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+        for (const auto& port : container->getInternalOutputPorts())
+            outputs.push_back(port.get());
+    return !outputs.empty() && std::all_of(outputs.begin(), outputs.end(),
+                                           [](const DataHolder* port) { return port->hasData(); });
+}
+
+// The inputs that a run of `functor` pulls: its own, and those of the hook functors
+// directly inside it, pulled at the end of its pass.
+std::vector<const InputPort*> pulledInputs(const Functor& functor)
+{
+    std::vector<const InputPort*> inputs;
+    for (const auto& port : functor.getInputPorts())
+        inputs.push_back(port.get());
+    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+        for (const auto& inner : container->getFunctors())
+            if (dynamic_cast<const HookFunctor*>(inner.get()))
+                for (const auto& port : inner->getInputPorts())
+                    inputs.push_back(port.get());
+    return inputs;
+}
+
+// The functors being run lightly on this thread: a cycle among them stops there.
+class LightRunGuard {
+public:
+    explicit LightRunGuard(const Functor* functor) : functor_(functor)
+    {
+        running().push_back(functor);
+    }
+    ~LightRunGuard() { running().pop_back(); }
+    LightRunGuard(const LightRunGuard&) = delete;
+    LightRunGuard& operator=(const LightRunGuard&) = delete;
+
+    static bool isRunning(const Functor* functor)
+    {
+        return std::find(running().begin(), running().end(), functor) != running().end();
+    }
+
+private:
+    static std::vector<const Functor*>& running()
+    {
+        thread_local std::vector<const Functor*> functors;
+        return functors;
+    }
+
+    const Functor* functor_;
+};
+
 } // namespace
 
 Script::Script() = default;
 
+Script::~Script() = default;
+
+void Script::run(Task& task, const FunctorScheduler& scheduler)
+{
+    Task::Activation active(&task);
+    failedFunctor_ = nullptr;
+    verify();
+    emptyPorts(*this);
+    for (const auto& functor : getFunctors())
+        functor->prepare();
+    runTopLevel(task, scheduler);
+}
+
+void Script::run(Task& task, const std::string& schedulerName)
+{
+    std::shared_ptr<FunctorScheduler> scheduler =
+        FactoryFarmManager::Instance().getFunctorSchedulerFactory()->create(schedulerName);
+    run(task, *scheduler);
+}
+
+void Script::runTopLevel(Task& task, const FunctorScheduler& scheduler)
+{
+    RunContext context(task, RunContext::cloning(scheduler));
+    RunContext::Activation active(context);
+    try {
+        ContainerFunctorUtils::runPass(*this, debug);
+    } catch (...) {
+        failedFunctor_ = context.getFailedFunctor();
+        throw;
+    }
+}
+
+void Script::verify()
+{
+    WorkdirBinding::bindAll(*this);
+    FactoryFarmManager::Instance().getScriptVerifierFactory()->create(RunVerifierName)->verify(this);
+}
+
 void Script::runLight(Functor* functor)
 {
     assert(functor != 0 && "functor != 0");
-    for (const auto& port : functor->getInputPorts()) {
-        DataHolder* peer = port->getPeer();
-        if (port->isBound() && !port->isFeedback() && !peer->hasData() && peer->getOwner()
-            && peer->getOwner() != functor)
-            runLight(peer->getOwner());
+    if (hasProduced(*functor) || LightRunGuard::isRunning(functor))
+        return;
+    LightRunGuard guard(functor);
+    for (const InputPort* port : pulledInputs(*functor)) {
+        if (!port->isBound() || port->isFeedback() || port->getPeer()->hasData())
+            continue;
+        Functor* producer = port->getPeer()->getOwner();
+        if (producer && producer != functor)
+            runLight(producer);
     }
-    functor->run();
+    Task standIn;
+    Task* task = Task::getCurrentTask();
+    RunContext context(task ? *task : standIn,
+                       [functor] { return std::make_unique<LightFunctorScheduler>(functor); });
+    RunContext::Activation active(context);
+    ContainerFunctorUtils::runFunctor(*functor, debug);
 }
-
-Script::~Script() = default;
 
 Functor* Script::findFunctorByAlias(const std::string& alias) const
 {

@@ -1,0 +1,162 @@
+#ifndef VRK_TESTS_BASE_ENGINETESTKIT_H
+#define VRK_TESTS_BASE_ENGINETESTKIT_H
+
+// Small functors for testing how the host runs scripts: they record what they see in
+// a journal that the tests read. Scripts are built in code, without any reader.
+
+#include "base/ContainerFunctor.h"
+#include "base/Data.h"
+#include "base/FeedbackStrongInputPort.h"
+#include "base/HookFunctor.h"
+#include "base/NullType.h"
+#include "base/RuntimeException.h"
+#include "base/Script.h"
+#include "base/StrongInputPort.h"
+#include "base/TypeShim.h"
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace EngineTestKit {
+
+using NumberData = VRK::Data<double, VRK::NullType, VRK::NullType>;
+
+class NumberType : public VRK::TypeShim<NumberType, NumberData> {
+public:
+    NumberType() : TypeShim("EngineNumber", "A number of the engine tests") {}
+};
+
+// Named as the host expects work-directory ports to be typed.
+class EngineWorkdirType : public VRK::TypeShim<EngineWorkdirType, NumberData> {
+public:
+    EngineWorkdirType() : TypeShim("Workdir", "A work directory of the engine tests") {}
+};
+
+// What the functors saw, in the order they saw it; shared by every thread.
+class Journal {
+public:
+    static void add(const std::string& entry);
+    static std::vector<std::string> take();
+    static std::string joined();
+};
+
+// Publishes a constant on "value"; with "offset" bound, adds the offset's value.
+class Source : public VRK::Functor {
+public:
+    explicit Source(double value = 0);
+    void runImpl() override;
+
+private:
+    double value_;
+};
+
+// Adds "a" and "b" into "sum".
+class Add : public VRK::Functor {
+public:
+    Add();
+    void runImpl() override;
+};
+
+// Writes "<alias>=<value>" into the journal, or "<alias>=none" without data.
+class Probe : public VRK::Functor {
+public:
+    Probe();
+    void runImpl() override;
+};
+
+// "initial" on the first pass, then what "feedback" brought from the previous pass.
+class Mux : public VRK::Functor {
+public:
+    Mux();
+    void runImpl() override;
+};
+
+// Which kind of internal input "last" a Loop has, if any.
+enum class LastPort { none, plain, feedback };
+
+// Runs its contents `passes` times, publishing the pass number on "step"; its internal
+// input "last", if it has one, holds what the contents produced in a pass and is
+// journalled after each pass.
+class Loop : public VRK::ContainerFunctor {
+public:
+    explicit Loop(int passes = 1, LastPort last = LastPort::none);
+    void runImpl() override;
+
+private:
+    int passes_;
+};
+
+// Runs its contents on every odd pass of the enclosing loop's step read on "step".
+class OddPasses : public VRK::ContainerFunctor {
+public:
+    OddPasses();
+    void runImpl() override;
+};
+
+// A container that publishes its constant on the internal output "workdir".
+class WorkdirBox : public VRK::ContainerFunctor {
+public:
+    explicit WorkdirBox(double value = 0);
+    void runImpl() override;
+
+private:
+    double value_;
+};
+
+// Journals "<alias> in <workdir>" from its unbound "workdir" input.
+class WorkdirReader : public VRK::Functor {
+public:
+    WorkdirReader();
+    void runImpl() override;
+};
+
+// Counts its runs; its input "value" is meant for its consumer.
+class Hook : public VRK::HookFunctor {
+public:
+    Hook();
+    void runImpl() override;
+};
+
+// Fails with a RuntimeException.
+class Failing : public VRK::Functor {
+public:
+    Failing();
+    void runImpl() override;
+};
+
+// Waits until `count` meetings are running at the same time (or gives up after five
+// seconds), then journals whether they met, and the task and log level it ran under.
+class Meeting : public VRK::Functor {
+public:
+    explicit Meeting(int count);
+    void runImpl() override;
+    static void reset();
+
+private:
+    int count_;
+};
+
+// Registers the four schedulers' cloners and the verifier that runs use, as the
+// plugins would.
+void registerRunServices();
+
+// Adds a functor of class T, made with `arguments`, to `container` under `alias`.
+template <class T, class... Arguments>
+T& add(VRK::FunctorContainer& container, const std::string& alias, Arguments... arguments)
+{
+    auto functor = std::make_shared<T>(arguments...);
+    functor->setAlias(alias);
+    container.addFunctor(functor, true);
+    return *functor;
+}
+
+// Binds input `port` of `reader` to output `output` of `writer`.
+void bind(VRK::Functor& reader, const std::string& port, VRK::Functor& writer,
+          const std::string& output = "value");
+
+} // namespace EngineTestKit
+
+#endif

@@ -1,0 +1,160 @@
+#include "tests/base/EngineTestKit.h"
+#include "tests/support/LogCapture.h"
+
+#include "base/AutoFunctorScheduler.h"
+#include "base/LightFunctorScheduler.h"
+#include "base/ParallelFunctorScheduler.h"
+#include "base/ProcessorManager.h"
+#include "base/SequentialFunctorScheduler.h"
+#include "base/Task.h"
+#include "base/TaskCancellation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+using namespace EngineTestKit;
+
+namespace {
+
+std::vector<std::unique_ptr<VRK::FunctorScheduler>> everyScheduler()
+{
+    std::vector<std::unique_ptr<VRK::FunctorScheduler>> schedulers;
+    schedulers.push_back(std::make_unique<VRK::SequentialFunctorScheduler>());
+    schedulers.push_back(std::make_unique<VRK::ParallelFunctorScheduler>());
+    schedulers.push_back(std::make_unique<VRK::AutoFunctorScheduler>());
+    schedulers.push_back(std::make_unique<VRK::LightFunctorScheduler>());
+    return schedulers;
+}
+
+// Two independent chains in a loop, with a feedback cycle and a nested loop.
+void buildWideScript(VRK::Script& script)
+{
+    auto& loop = add<Loop>(script, "loop", 3);
+    auto& one = add<Source>(loop, "one", 1.0);
+    auto& mux = add<Mux>(loop, "m");
+    auto& next = add<Add>(loop, "next");
+    bind(mux, "initial", one);
+    bind(mux, "feedback", next, "sum");
+    bind(next, "a", mux);
+    bind(next, "b", one);
+    auto& stepped = add<Source>(loop, "stepped", 10.0);
+    bind(stepped, "offset", loop, "step");
+    auto& inner = add<Loop>(loop, "inner", 2);
+    auto& twice = add<Add>(inner, "twice");
+    bind(twice, "a", stepped);
+    bind(twice, "b", inner, "step");
+    auto& probe = add<Probe>(loop, "p");
+    bind(probe, "value", twice, "sum");
+    auto& last = add<Probe>(script, "last");
+    bind(last, "value", next, "sum");
+}
+
+class Schedulers : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        registerRunServices();
+        Journal::take();
+        processors_ = VRK::ProcessorManager::Instance().getProcessorCount();
+        VRK::ProcessorManager::Instance().setProcessorCount(2);
+    }
+    void TearDown() override { VRK::ProcessorManager::Instance().setProcessorCount(processors_); }
+
+    VRK::Task task;
+
+private:
+    unsigned int processors_ = 0;
+};
+
+} // namespace
+
+TEST_F(Schedulers, EverySchedulerGivesTheSameResults)
+{
+    std::vector<std::string> expected;
+    for (const auto& scheduler : everyScheduler()) {
+        VRK::Script script;
+        buildWideScript(script);
+        script.run(task, *scheduler);
+        std::vector<std::string> entries = Journal::take();
+        // Independent chains may interleave differently; each keeps its own order.
+        std::vector<std::string> values;
+        std::copy_if(entries.begin(), entries.end(), std::back_inserter(values),
+                     [](const std::string& entry) { return entry.find('=') != std::string::npos; });
+        std::stable_sort(values.begin(), values.end(), [](const auto& left, const auto& right) {
+            return left.substr(0, left.find('=')) < right.substr(0, right.find('='));
+        });
+        if (expected.empty()) {
+            expected = values;
+            EXPECT_EQ(values, (std::vector<std::string>{"last=4", "m=1", "m=2", "m=3", "p=13",
+                                                        "p=14", "p=15"}));
+        }
+        EXPECT_EQ(values, expected) << typeid(*scheduler).name();
+    }
+}
+
+TEST_F(Schedulers, ParallelRunsIndependentFunctorsAtOnceForTheCallersRun)
+{
+    VRK::Testing::LogCapture capture(VRK::debug);
+    for (bool automatic : {false, true}) {
+        Meeting::reset();
+        VRK::Script script;
+        add<Meeting>(script, "first", 2);
+        add<Meeting>(script, "second", 2);
+        if (automatic)
+            script.run(task, VRK::AutoFunctorScheduler());
+        else
+            script.run(task, VRK::ParallelFunctorScheduler());
+        EXPECT_EQ(Journal::take(), (std::vector<std::string>{"met with task at debug",
+                                                             "met with task at debug"}));
+    }
+}
+
+TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)
+{
+    for (const auto& scheduler : everyScheduler()) {
+        VRK::Script script;
+        auto& failing = add<Failing>(script, "f");
+        auto& after = add<Source>(script, "after", 1.0);
+        failing.addOutputPort("value", "Never set", NumberType::getInstance());
+        bind(after, "offset", failing, "value");
+        EXPECT_THROW(script.run(task, *scheduler), VRK::RuntimeException);
+        EXPECT_EQ(script.getFailedFunctor(), &failing);
+        EXPECT_EQ(Journal::take(), std::vector<std::string>{"f"});
+    }
+}
+
+TEST_F(Schedulers, CancellationCrossesWorkerThreads)
+{
+    for (const auto& scheduler : everyScheduler()) {
+        VRK::Task cancelled;
+        cancelled.cancel();
+        VRK::Script script;
+        auto& left = add<Loop>(script, "left", 2);
+        add<Source>(left, "l", 1.0);
+        auto& right = add<Loop>(script, "right", 2);
+        add<Source>(right, "r", 1.0);
+        EXPECT_THROW(script.run(cancelled, *scheduler), VRK::TaskCancellation);
+        EXPECT_EQ(Journal::take(), std::vector<std::string>{});
+    }
+}
+
+TEST_F(Schedulers, ScheduledFunctorsLeaveHooksOut)
+{
+    VRK::Script script;
+    auto& probe = add<Probe>(script, "p");
+    add<Hook>(script, "h");
+    auto& source = add<Source>(script, "s", 1.0);
+    bind(probe, "value", source);
+    for (const auto& scheduler : everyScheduler()) {
+        scheduler->schedule(script);
+        ASSERT_EQ(scheduler->getScheduledFunctorCount(), 2u);
+        EXPECT_EQ(scheduler->getScheduledFunctor(0), &source);
+        EXPECT_EQ(scheduler->getScheduledFunctor(1), &probe);
+    }
+    VRK::LightFunctorScheduler light(&source);
+    light.schedule(script);
+    ASSERT_EQ(light.getScheduledFunctorCount(), 1u);
+    EXPECT_EQ(light.getScheduledFunctor(0), &source);
+}
