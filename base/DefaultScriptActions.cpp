@@ -89,7 +89,7 @@ void DefaultScriptActions::unknownFunctor(const ScriptIterator& first, const Scr
 }
 
 // What stands where the inputs of a functor should go on or end: a word that starts
-// the next statement means the ";" is missing, any other word lacks its "=".
+// the next statement means that the ";" is missing, any other word lacks its "=".
 void DefaultScriptActions::unterminatedFunctor(const ScriptIterator& first, const ScriptIterator&)
 {
     ScriptIterator end = first;
@@ -100,9 +100,11 @@ void DefaultScriptActions::unterminatedFunctor(const ScriptIterator& first, cons
     ScriptIterator next = end;
     while (next != ScriptIterator() && std::isspace(static_cast<unsigned char>(*next)))
         ++next;
+    // "Name input = ..." or "alias := ..." begin a statement.
     const bool startsStatement =
         FactoryFarmManager::Instance().getFunctorFactory()->isRegistered(word)
-        || (next != ScriptIterator() && *next == ':');
+        || (next != ScriptIterator()
+            && (*next == ':' || *next == '_' || std::isalpha(static_cast<unsigned char>(*next))));
     if (!word.empty() && !startsStatement)
         raise(next, "Expecting \"=\" after the input name \"" + word + "\".");
     raise(first, "Expecting an input name, \";\" or \"{\" after the inputs of "

@@ -1,3 +1,5 @@
+#include "apps/vrk/CheckCommand.h"
+#include "apps/vrk/ConvertCommand.h"
 #include "apps/vrk/DescribeCommand.h"
 #include "apps/vrk/HostSession.h"
 #include "apps/vrk/ListCommand.h"
@@ -53,6 +55,20 @@ int main(int argc, char** argv)
     CLI::App* describe = app.add_subcommand("describe", "Show the ports of a functor");
     describe->add_option("name", describeName, "Registered name or alias of the functor")->required();
     commands.push_back({describe, [&] { return DescribeCommand::run(describeName, std::cout, std::cerr); }});
+
+    std::string checkScript;
+    CLI::App* check = app.add_subcommand("check", "Read and verify a script, run nothing");
+    check->add_option("script", checkScript, "The script file")->required();
+    commands.push_back({check, [&] { return CheckCommand::run(checkScript, std::cout, std::cerr); }});
+
+    std::string convertIn;
+    std::string convertOut;
+    CLI::App* convert =
+        app.add_subcommand("convert", "Convert a script between .vrk, .xml and .dot");
+    convert->add_option("in", convertIn, "The script to read")->required();
+    convert->add_option("out", convertOut, "The file to write; its extension names the format")
+        ->required();
+    commands.push_back({convert, [&] { return ConvertCommand::run(convertIn, convertOut, std::cerr); }});
 
     try {
         app.parse(argc, argv);

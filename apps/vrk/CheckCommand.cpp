@@ -1,0 +1,23 @@
+#include "apps/vrk/CheckCommand.h"
+
+#include "apps/vrk/DiagnosticPrinter.h"
+
+#include "base/Exception.h"
+#include "base/NonIntrusiveScriptVerifier.h"
+#include "base/Script.h"
+#include "base/ScriptFiles.h"
+
+int CheckCommand::run(const std::string& script, std::ostream& out, std::ostream& err)
+{
+    DiagnosticPrinter diagnostics(err);
+    try {
+        std::shared_ptr<VRK::Script> read = VRK::ScriptFiles::read(script);
+        diagnostics.addSource(script, read->getSource());
+        VRK::NonIntrusiveScriptVerifier().verify(read.get());
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, script);
+        return 2;
+    }
+    out << script << ": the script is valid.\n";
+    return 0;
+}

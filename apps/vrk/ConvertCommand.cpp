@@ -1,0 +1,33 @@
+#include "apps/vrk/ConvertCommand.h"
+
+#include "apps/vrk/DiagnosticPrinter.h"
+
+#include "base/Exception.h"
+#include "base/Script.h"
+#include "base/ScriptFiles.h"
+
+int ConvertCommand::run(const std::string& in, const std::string& out, std::ostream& err)
+{
+    DiagnosticPrinter diagnostics(err);
+    std::shared_ptr<VRK::Script> script;
+    try {
+        // An extension that no writer takes is a mistake of the command line.
+        VRK::ScriptFiles::createWriter(out);
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, out);
+        return 2;
+    }
+    try {
+        script = VRK::ScriptFiles::read(in);
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, in);
+        return 2;
+    }
+    try {
+        VRK::ScriptFiles::write(*script, out);
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, out);
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,61 @@
+#include "apps/vrk/DiagnosticPrinter.h"
+
+#include "base/Exception.h"
+
+#include <fstream>
+#include <iterator>
+
+DiagnosticPrinter::DiagnosticPrinter(std::ostream& out) : out_(out) {}
+
+void DiagnosticPrinter::addSource(const std::string& filename, const VRK::LineBuffer& source)
+{
+    sources_[filename] = source;
+}
+
+void DiagnosticPrinter::print(const VRK::Exception& error, const std::string& file)
+{
+    VRK::ScriptPosition position = error.getScriptPosition();
+    if (!position.isKnown() || position.file.empty())
+        position = VRK::ScriptPosition{file, 0, 0};
+    print(error.getMessage(), position);
+}
+
+void DiagnosticPrinter::print(const std::string& message, const VRK::ScriptPosition& position)
+{
+    out_ << (position.file.empty() ? std::string("vrk") : position.file);
+    if (position.isKnown()) {
+        out_ << ':' << position.line;
+        if (position.column > 0)
+            out_ << ':' << position.column;
+    }
+    out_ << ": error: " << message << '\n';
+    if (position.isKnown() && !position.file.empty())
+        quote(position);
+    out_.flush();
+}
+
+// The caret line repeats the tabs of the source line, so the caret stands under the
+// column whatever the terminal's tab width.
+void DiagnosticPrinter::quote(const VRK::ScriptPosition& position)
+{
+    const std::string line = sourceOf(position.file).getLine(static_cast<size_t>(position.line));
+    if (line.empty())
+        return;
+    out_ << line << '\n';
+    if (position.column < 1)
+        return;
+    std::string caret;
+    for (size_t i = 0; i + 1 < static_cast<size_t>(position.column); ++i)
+        caret += i < line.size() && line[i] == '\t' ? '\t' : ' ';
+    out_ << caret << "^\n";
+}
+
+const VRK::LineBuffer& DiagnosticPrinter::sourceOf(const std::string& filename)
+{
+    auto known = sources_.find(filename);
+    if (known != sources_.end())
+        return known->second;
+    std::ifstream in(filename, std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    return sources_[filename] = VRK::LineBuffer(text);
+}
