@@ -78,7 +78,7 @@ struct DefaultScriptGrammar::definition {
         reference = eps_p(alpha_p | '_')
                     >> transduced_assertive_p(
                         lexeme_d[word >> '.' >> word][on(a, &DefaultScriptActions::reference)],
-                        "Expecting a reference of the form alias.port.");
+                        "Expecting a value, or a reference of the form alias.port.");
 
         binding = (identifier[on(a, &DefaultScriptActions::word)]
                    >> '=')[on(a, &DefaultScriptActions::port)]

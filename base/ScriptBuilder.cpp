@@ -8,7 +8,6 @@
 #include "base/WorkdirBinding.h"
 
 #include <cassert>
-#include <sstream>
 
 namespace VRK {
 
@@ -105,12 +104,12 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
                                             "The alias " + quoted(alias) + " is not a valid name.");
     auto known = aliases_.find(alias);
     if (known != aliases_.end()) {
-        std::ostringstream message;
-        message << "The alias " << quoted(alias) << " is already used";
-        if (known->second.second.isKnown())
-            message << " at " << known->second.second;
-        message << ".";
-        ExceptionUtils::raiseAt<ParseError>(position, message.str());
+        const ScriptPosition& first = known->second.second;
+        std::string message = "The alias " + quoted(alias) + " is already used";
+        if (first.isKnown())
+            message += " at line " + std::to_string(first.line) + ", column "
+                       + std::to_string(first.column);
+        ExceptionUtils::raiseAt<ParseError>(position, message + ".");
     }
     aliases_[alias] = {&functor, position};
     functor.setAlias(alias);

@@ -2,7 +2,8 @@
 # Runs every case under cases/: a case is a folder with the command line arguments
 # (args, one per line; "SCRIPT" stands for the case's script.vrk), the expected
 # standard output (stdout) and exit status (status). An optional "stderr" file holds
-# text the standard error must contain.
+# text the standard error must contain, as one block (a diagnostic, its source line
+# and its caret line together).
 set -u
 vrk="$1"
 root="$2"
@@ -27,7 +28,7 @@ for case_dir in "$root"/cases/*/; do
         failed=$((failed + 1))
         continue
     fi
-    if [ -f "$case_dir/stderr" ] && ! grep -qF -- "$(cat "$case_dir/stderr")" /tmp/vrk_e2e_err.$$; then
+    if [ -f "$case_dir/stderr" ] && [[ "$(cat /tmp/vrk_e2e_err.$$)" != *"$(cat "$case_dir/stderr")"* ]]; then
         echo "FAIL $name: standard error lacks: $(cat "$case_dir/stderr")"
         cat /tmp/vrk_e2e_err.$$
         failed=$((failed + 1))
