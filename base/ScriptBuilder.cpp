@@ -3,6 +3,7 @@
 #include "base/ContainerFunctor.h"
 #include "base/NameUtils.h"
 #include "base/PortScope.h"
+#include "base/PropertyUtils.h"
 #include "base/Script.h"
 #include "base/ValueParser.h"
 #include "base/WorkdirBinding.h"
@@ -49,7 +50,10 @@ ScriptBuilder::ScriptBuilder(Script& script) : script_(script)
 
 void ScriptBuilder::addProperty(const std::string& name, const std::string& value)
 {
-    pendingProperties_.emplace_back(name, value);
+    // Older scripts name some properties differently ("note" for the comment).
+    std::string property = name;
+    PropertyUtils::findPropertyByAlias(property, name);
+    pendingProperties_.emplace_back(property, value);
 }
 
 void ScriptBuilder::attachPropertiesToScript(const ScriptPosition& position)

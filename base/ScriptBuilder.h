@@ -32,7 +32,8 @@ class ScriptBuilder {
 public:
     explicit ScriptBuilder(Script& script);
 
-    // A property of the functor that the next `beginFunctor` creates.
+    // A property of the functor that the next `beginFunctor` creates; an old name of a
+    // property stands for its present one.
     void addProperty(const std::string& name, const std::string& value);
     // Hands the pending properties to the script itself; only at the top level.
     void attachPropertiesToScript(const ScriptPosition& position);

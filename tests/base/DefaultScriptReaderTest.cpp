@@ -29,6 +29,7 @@ TEST(DefaultScriptReader, BuildsNestedFunctorsWithAliasesPropertiesAndBindings)
         "@comment = \"Says \\\"hi\\\"\\n twice\"\n"
         "sink := TestSink value = src.object title = \"x y\";\n"
         "box := TestBlock count = 3 condition = inner.object {\n"
+        "    @note = \"an old name of the comment\"\n"
         "    inner := TestSource constant = 7;\n"
         "    TestSink value = box.step;\n"
         "}\n"
@@ -59,6 +60,9 @@ TEST(DefaultScriptReader, BuildsNestedFunctorsWithAliasesPropertiesAndBindings)
     // A binding on a container may feed its internal input from inside.
     EXPECT_EQ(box.getInternalInputPort("condition")->getPeer(),
               box.getFunctor(0)->getOutputPort("object"));
+    EXPECT_EQ(box.getFunctor(0)->getProperties().getPropertyValue(
+                  VRK::FUNCTOR_COMMENT_PROPERTY_NAME),
+              "an old name of the comment");
     // Inside a container its internal output is what the alias names.
     EXPECT_EQ(box.getFunctor(1)->getInputPort("value")->getPeer(), box.getInternalOutputPort("step"));
     EXPECT_EQ(box.getFunctor(1)->getContainer(), &box);
