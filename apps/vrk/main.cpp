@@ -3,6 +3,7 @@
 #include "apps/vrk/DescribeCommand.h"
 #include "apps/vrk/HostSession.h"
 #include "apps/vrk/ListCommand.h"
+#include "apps/vrk/RunCommand.h"
 
 #include "base/LogTagInfo.h"
 
@@ -69,6 +70,20 @@ int main(int argc, char** argv)
     convert->add_option("out", convertOut, "The file to write; its extension names the format")
         ->required();
     commands.push_back({convert, [&] { return ConvertCommand::run(convertIn, convertOut, std::cerr); }});
+
+    RunCommand::Options runOptions;
+    CLI::App* run = app.add_subcommand("run", "Read, verify and run a script");
+    run->add_option("script", runOptions.script, "The script file")->required();
+    run->add_option("--scheduler", runOptions.scheduler, "sequential, parallel or auto (default)")
+        ->check(CLI::IsMember(RunCommand::getSchedulerChoices()));
+    run->add_option("--processors", runOptions.processors,
+                    "Processors the run may use (0: every hardware thread)")
+        ->check(CLI::NonNegativeNumber);
+    run->add_option("--set", runOptions.assignments, "Set an input: alias.port=VALUE")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    run->add_option("--params", runOptions.parameterFile, "Parameter file to apply");
+    commands.push_back({run, [&] { return RunCommand::run(runOptions, std::cerr); }});
 
     try {
         app.parse(argc, argv);

@@ -1,0 +1,126 @@
+#include "apps/vrk/RunCommand.h"
+
+#include "apps/vrk/DiagnosticPrinter.h"
+#include "apps/vrk/InterruptGuard.h"
+
+#include "base/Exception.h"
+#include "base/Functor.h"
+#include "base/Logger.h"
+#include "base/ProcessorManager.h"
+#include "base/Script.h"
+#include "base/ScriptBuilder.h"
+#include "base/ScriptFiles.h"
+#include "base/ScriptParameters.h"
+#include "base/Task.h"
+#include "base/TaskCancellation.h"
+
+#include <map>
+#include <memory>
+
+namespace {
+
+const std::map<std::string, std::string>& schedulerNames()
+{
+    static const std::map<std::string, std::string> names{
+        {"auto", "AutoFunctorScheduler"},
+        {"parallel", "ParallelFunctorScheduler"},
+        {"sequential", "SequentialFunctorScheduler"}};
+    return names;
+}
+
+// Reads the script, applies the parameters and verifies the result; none, with the
+// diagnostic printed, when any of them is invalid.
+std::shared_ptr<VRK::Script> prepareScript(const RunCommand::Options& options,
+                                           DiagnosticPrinter& diagnostics)
+{
+    std::string concerned = options.script;
+    try {
+        std::shared_ptr<VRK::Script> script = VRK::ScriptFiles::read(options.script);
+        diagnostics.addSource(options.script, script->getSource());
+        if (!options.parameterFile.empty()) {
+            concerned = options.parameterFile;
+            VRK::ScriptParameters::apply(*script,
+                                         VRK::ScriptParameters::readFile(options.parameterFile));
+        }
+        for (const auto& assignment : options.assignments) {
+            concerned = "--set " + assignment;
+            VRK::ScriptParameters::apply(*script,
+                                         VRK::ScriptParameters::parseAssignment(assignment));
+        }
+        concerned = options.script;
+        script->verify();
+        return script;
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, concerned);
+        return nullptr;
+    }
+}
+
+// The error of a run, laid on the functor that failed when the run knows it.
+void reportRunError(const VRK::Script& script, const std::exception& error,
+                    DiagnosticPrinter& diagnostics)
+{
+    const auto* hostError = dynamic_cast<const VRK::Exception*>(&error);
+    const std::string message = hostError ? hostError->getMessage() : std::string(error.what());
+    if (const VRK::Functor* failed = script.getFailedFunctor()) {
+        VRK::ScriptPosition position = failed->getPosition();
+        if (!position.isKnown())
+            position = VRK::ScriptPosition{script.getFilename(), 0, 0};
+        diagnostics.print("The run of " + VRK::ScriptBuilder::describe(*failed) + " failed: "
+                              + message,
+                          position);
+    } else if (hostError) {
+        diagnostics.print(*hostError, script.getFilename());
+    } else {
+        diagnostics.print(message, VRK::ScriptPosition{script.getFilename(), 0, 0});
+    }
+}
+
+// Runs under a task that SIGINT cancels; returns the exit status.
+int runScript(VRK::Script& script, const std::string& scheduler, DiagnosticPrinter& diagnostics,
+              std::ostream& err)
+{
+    VRK::Task task;
+    InterruptGuard interrupt(task);
+    try {
+        script.run(task, scheduler);
+        return 0;
+    } catch (const VRK::TaskCancellation&) {
+        err << "vrk: the run was cancelled.\n";
+        return 130;
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& error) {
+        reportRunError(script, error, diagnostics);
+        return 1;
+    }
+}
+
+} // namespace
+
+std::vector<std::string> RunCommand::getSchedulerChoices()
+{
+    std::vector<std::string> choices;
+    for (const auto& name : schedulerNames())
+        choices.push_back(name.first);
+    return choices;
+}
+
+int RunCommand::run(const Options& options, std::ostream& err)
+{
+    DiagnosticPrinter diagnostics(err);
+    std::shared_ptr<VRK::Script> script = prepareScript(options, diagnostics);
+    if (!script)
+        return 2;
+    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
+    const std::shared_ptr<VRK::LogFilter> filter = logger->getMainFilter();
+    VRK::Processor& processor = VRK::ProcessorManager::Instance();
+    const unsigned int processors = processor.getProcessorCount();
+    if (options.processors)
+        processor.setProcessorCount(*options.processors);
+    const int status =
+        runScript(*script, schedulerNames().at(options.scheduler), diagnostics, err);
+    logger->setMainFilter(filter);
+    processor.setProcessorCount(processors);
+    return status;
+}

@@ -1,0 +1,21 @@
+#ifndef IO_PRINTSTRINGFUNCTOR_H
+#define IO_PRINTSTRINGFUNCTOR_H
+
+#include "base/Functor.h"
+
+namespace Io {
+
+// Writes its "label" followed by its "string" to the log at ".result".
+class PrintString : public VRK::Functor {
+public:
+    PrintString();
+    PrintString(const PrintString&) = default;
+    PrintString& operator=(const PrintString&) = default;
+    ~PrintString() override;
+
+    void runImpl() override;
+};
+
+} // namespace Io
+
+#endif
