@@ -66,7 +66,13 @@ void DefaultScriptWriter::checkCompatibilityImpl(Script* script, const std::stri
         for (const auto& property : script->getProperties().getAll())
             if (!NameUtils::isValidName(property.first))
                 refuse("the property name \"" + property.first + "\" is not an identifier.");
+    std::set<std::string> aliases;
     forEachFunctor(*script, [&](const Functor& functor) {
+        const std::string& alias = functor.getAlias();
+        if (!alias.empty() && !NameUtils::isValidName(alias))
+            refuse("the alias \"" + alias + "\" is not an identifier.");
+        if (!alias.empty() && !aliases.insert(alias).second)
+            refuse("the alias \"" + alias + "\" names two functors.");
         if (writeProperties_)
             for (const auto& property : functor.getProperties().getAll())
                 if (!NameUtils::isValidName(property.first))

@@ -35,8 +35,8 @@ public:
     ~DefaultScriptWriter() override;
 
 protected:
-    // Throws when a value has no registered writer, a property name is no identifier or
-    // a binding leads out of the script.
+    // Throws when a value has no registered writer, a property name or an alias is no
+    // identifier, two functors share an alias, or a binding leads out of the script.
     void checkCompatibilityImpl(Script* script, const std::string& filename) override;
     void writeImpl(Script* script, std::ostream& out, const std::string& filename) override;
 

@@ -81,6 +81,12 @@ TEST(DefaultScriptWriter, NamesReferencedFunctorsThatHaveNoAlias)
     std::ostringstream withAliases;
     VRK::DefaultScriptWriter(4, true, false, true).write(script.get(), withAliases, "a.vrk");
     EXPECT_NE(withAliases.str().find("testSource1 := TestRefused;"), std::string::npos);
+
+    // What a program may do to aliases that no text script could read back.
+    script->getFunctor(0)->setAlias("testSource1");
+    EXPECT_THROW(writeText(*script), VRK::Exception);
+    script->getFunctor(0)->setAlias("two words");
+    EXPECT_THROW(writeText(*script), VRK::Exception);
 }
 
 TEST(DefaultScriptWriter, LeavesWorkDirectoryBindingsToTheHost)
