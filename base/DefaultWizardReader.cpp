@@ -32,6 +32,7 @@ void DefaultWizardReader::readImpl(std::istream& in, const std::string& filename
         const std::string text(first, last);
         parameter.alias = text.substr(0, text.find('.'));
         parameter.port = text.substr(text.find('.') + 1);
+        parameter.namePosition = DefaultScriptActions::positionOf(first);
     };
     auto value = [&](const ScriptIterator& first, const ScriptIterator& last) {
         parameter.value = std::string(first, last);

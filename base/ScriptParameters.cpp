@@ -47,16 +47,17 @@ void ScriptParameters::apply(Script& script, const std::vector<WizardParameter>&
 
 void ScriptParameters::apply(Script& script, const WizardParameter& parameter)
 {
+    const ScriptPosition& name =
+        parameter.namePosition.isKnown() ? parameter.namePosition : parameter.position;
     Functor* functor = script.findFunctorByAlias(parameter.alias);
     if (!functor)
-        ExceptionUtils::raiseAt<ParseError>(parameter.position, "The script has no functor aliased \""
-                                                                    + parameter.alias + "\".");
-    InputPort& port = ScriptBuilder::findInput(*functor, parameter.port, parameter.position);
+        ExceptionUtils::raiseAt<ParseError>(
+            name, "The script has no functor aliased \"" + parameter.alias + "\".");
+    InputPort& port = ScriptBuilder::findInput(*functor, parameter.port, name);
     if (port.isBound())
         ExceptionUtils::raiseAt<ParseError>(
-            parameter.position, "The input \"" + port.getName() + "\" of "
-                                    + ScriptBuilder::describe(*functor)
-                                    + " is bound to an output: a parameter cannot set it.");
+            name, "The input \"" + port.getName() + "\" of " + ScriptBuilder::describe(*functor)
+                      + " is bound to an output: a parameter cannot set it.");
     ScriptBuilder::setValueText(port, parameter.value, parameter.position);
     if (parameter.position.isKnown())
         port.setPosition(parameter.position);

@@ -12,7 +12,10 @@ struct WizardParameter {
     std::string alias;
     std::string port;
     std::string value;
+    // Where the value stands.
     ScriptPosition position;
+    // Where "alias.port" stands; unknown where only the value's place is known.
+    ScriptPosition namePosition;
 };
 
 } // namespace VRK

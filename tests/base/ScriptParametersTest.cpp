@@ -44,6 +44,8 @@ TEST(DefaultWizardReader, ReadsAliasPortAndValueTextWithTheValuesPosition)
     EXPECT_EQ(parameters[0].position.file, "p.txt");
     EXPECT_EQ(parameters[0].position.line, 2);
     EXPECT_EQ(parameters[0].position.column, 26);
+    EXPECT_EQ(parameters[0].namePosition.line, 2);
+    EXPECT_EQ(parameters[0].namePosition.column, 1);
     EXPECT_EQ(parameters[1].alias, "name");
     EXPECT_EQ(parameters[1].value, "\"a; \\\"b\\\"\"");
     EXPECT_EQ(parameters[1].position.line, 4);
@@ -61,8 +63,8 @@ TEST(DefaultWizardReader, ReadsAliasPortAndValueTextWithTheValuesPosition)
 TEST(DefaultWizardWriter, WritesWhatTheReaderReadsBack)
 {
     VRK::DefaultWizardWriter writer;
-    writer.addParameter({"loop", "step", "3", {}});
-    writer.addParameter({"s", "constant", "\"x;y\"", {}});
+    writer.addParameter({"loop", "step", "3", {}, {}});
+    writer.addParameter({"s", "constant", "\"x;y\"", {}, {}});
     std::ostringstream out;
     writer.write(out, "p.txt");
     EXPECT_EQ(out.str(), "loop.step = 3;\ns.constant = \"x;y\";\n");
@@ -86,16 +88,16 @@ TEST(ScriptParameters, SetTheValuesOfAliasedFunctors)
     const auto apply = [&](const std::string& text) {
         return [&script, text] { VRK::ScriptParameters::apply(*script, readParameters(text)); };
     };
-    expectParseError(apply("\n  x.constant = 1;"), "The script has no functor aliased \"x\".", 2, 16);
+    expectParseError(apply("\n  x.constant = 1;"), "The script has no functor aliased \"x\".", 2, 3);
     expectParseError(apply("n.value = 1;"),
                      "The functor \"n\" (TestSource) has no input \"value\". Its inputs are \"constant\".",
-                     1, 11);
+                     1, 1);
     expectParseError(apply("n.constant =  -3;"), "The number \"-3\" is negative.", 1, 15);
     expectParseError(apply("n.constant = 4 4;"), "Unexpected text after the value.", 1, 16);
     expectParseError(apply("s.value = 2;"),
                      "The input \"value\" of \"s\" (TestSink) is bound to an output: a parameter "
                      "cannot set it.",
-                     1, 11);
+                     1, 1);
     EXPECT_THROW(VRK::ScriptParameters::parseAssignment("n.constant"), VRK::ParseError);
     EXPECT_THROW(VRK::ScriptParameters::parseAssignment("constant=3"), VRK::ParseError);
 }
