@@ -6,6 +6,7 @@
 #include "base/ExceptionUtils.h"
 #include "base/FactoryFarmManager.h"
 #include "base/FileException.h"
+#include "base/NameUtils.h"
 #include "base/PortScope.h"
 #include "base/Script.h"
 #include "base/WorkdirBinding.h"
@@ -53,7 +54,13 @@ void ScriptWritingPlan::check(const std::string& filename) const
         ExceptionUtils::raise<FileException>("The script cannot be written to \"" + filename
                                              + "\": " + reason);
     };
+    std::set<std::string> aliases;
     forEachFunctor(script_, [&](const Functor& functor) {
+        const std::string& alias = functor.getAlias();
+        if (!alias.empty() && !NameUtils::isValidName(alias))
+            refuse("the alias \"" + alias + "\" is not an identifier.");
+        if (!alias.empty() && !aliases.insert(alias).second)
+            refuse("the alias \"" + alias + "\" names two functors.");
         for (const InputPort* port : PortScope::getAllInputs(functor)) {
             if (isWrittenBinding(*port) && !functors.count(peerOwner(*port)))
                 refuse("the input \"" + port->getName() + "\" of \"" + functor.getName()

@@ -30,8 +30,9 @@ public:
 
     ScriptWritingPlan(const Script& script, const Options& options);
 
-    // Throws a FileException naming `filename` when a written value has no registered
-    // writer or a binding leads out of the script.
+    // Throws a FileException naming `filename` when what would be written could not be
+    // read back: an alias that is no identifier or names two functors, a value without
+    // a registered writer, a binding that leads out of the script.
     void check(const std::string& filename) const;
 
     bool isWritten(const InputPort& port) const;

@@ -230,8 +230,16 @@ TEST(XMLScriptReader, ReadingPropertiesOnlyCreatesNoFunctor)
     EXPECT_EQ(script.getProperties().getPropertyValue("author"), "A");
 }
 
-TEST(XMLScriptWriter, RefusesABindingThatLeadsOutOfTheScript)
+TEST(XMLScriptWriter, RefusesWhatCouldNotBeReadBack)
 {
+    auto twice = readText("a := TestSource constant = 1;\nb := TestSource constant = 2;\n");
+    twice->getFunctor(1)->setAlias("a");
+    EXPECT_THROW(writeXML(*twice), VRK::FileException);
+    twice->getFunctor(1)->setAlias("not valid");
+    EXPECT_THROW(writeXML(*twice), VRK::FileException);
+    twice->getFunctor(1)->setAlias("b");
+    EXPECT_NO_THROW(writeXML(*twice));
+
     auto inside = readText("TestSink value = 1;\n");
     auto outside = readText("src := TestSource constant = 1;\n");
     inside->getFunctor(0)->getInputPort("value")->bind(
