@@ -7,9 +7,12 @@
 
 namespace VRK {
 
-// Picks, for each pass over a container, the parallel scheduler when some of its
-// contents are independent of each other and more than one processor may be used, and
-// the sequential one otherwise (a chain gains nothing from the pool but its cost).
+// Picks, for each pass over a container, the parallel or the sequential scheduler. It
+// runs in parallel only when more than one processor may be used, some contents are
+// independent of each other, and there is work enough to repay the pool: one of the
+// contents is a container (a loop or a block, whose contents run inside it), or the
+// last pass over the container took a millisecond or more. Small plain functors, a
+// loop body of carriers and steps, run faster one after the other.
 class AutoFunctorScheduler : public FunctorScheduler {
 public:
     AutoFunctorScheduler();
@@ -26,6 +29,7 @@ private:
     // Parallel and sequential runs of the same schedule.
     class Schedule : public ParallelFunctorScheduler {
     public:
+        using ParallelFunctorScheduler::getContainers;
         using ParallelFunctorScheduler::hasIndependentFunctors;
         void runSequentially() { SequentialFunctorScheduler::runImpl(); }
         void runInParallel() { ParallelFunctorScheduler::runImpl(); }
@@ -33,7 +37,11 @@ private:
         size_t getScheduledCount() { return getScheduledFunctorCountImpl(); }
     };
 
+    bool isWorthParallel() const;
+
     std::unique_ptr<Schedule> schedule_;
+    bool holdsContainer_ = false;
+    double lastPassSeconds_ = 0;
 };
 
 } // namespace VRK

@@ -12,34 +12,6 @@ namespace VRK {
 
 namespace {
 
-void startPass(const FunctorContainer& container)
-{
-    for (const auto& functor : container.getFunctors()) {
-        functor->resetOutputPortData(true);
-        functor->resetInputPortData(false);
-    }
-    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
-        for (const auto& port : owner->getInternalInputPorts())
-            if (!port->isFeedback())
-                port->resetData();
-}
-
-void endPass(const FunctorContainer& container, const ContainerPlan& plan)
-{
-    for (HookFunctor* hook : plan.getHooks()) {
-        hook->Functor::preparePorts();
-        hook->pullInputs();
-    }
-    plan.takeFeedback();
-    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
-        for (const auto& port : owner->getInternalInputPorts()) {
-            if (auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get()))
-                feedback->pullFeedback();
-            else
-                port->pullData();
-        }
-}
-
 // `described` is the error as the log shows it: for the host's exceptions, with the
 // exception's name.
 void report(const Functor& functor, const char* message, const std::string& described, LogTag tag)
@@ -89,16 +61,21 @@ void ContainerFunctorUtils::runPass(const FunctorContainer& container, LogTag ta
     }
     ContainerPlan& plan = context->getPlan(container);
     FunctorScheduler& scheduler = plan.getScheduler(tag);
-    startPass(container);
+    plan.startPass();
     scheduler.run();
-    endPass(container, plan);
+    plan.endPass();
 }
 
 void ContainerFunctorUtils::runFunctor(Functor& functor, LogTag tag)
 {
+    runFunctor(functor, dynamic_cast<ContainerFunctor*>(&functor), tag);
+}
+
+void ContainerFunctorUtils::runFunctor(Functor& functor, ContainerFunctor* container, LogTag tag)
+{
     try {
         RunContext* context = RunContext::getCurrent();
-        if (auto* container = dynamic_cast<ContainerFunctor*>(&functor); container && context)
+        if (container && context)
             context->getPlan(*container).clearFeedback();
         functor.Functor::preparePorts();
         functor.run();

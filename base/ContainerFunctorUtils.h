@@ -32,6 +32,9 @@ public:
     // prepared, then it runs. A failure is laid on the innermost functor that failed
     // and reported once, under `tag`.
     static void runFunctor(Functor& functor, LogTag tag);
+    // The same for a functor known to be the container `container`, or none: schedulers
+    // work that out once for the run rather than at every pass.
+    static void runFunctor(Functor& functor, ContainerFunctor* container, LogTag tag);
 };
 
 } // namespace VRK

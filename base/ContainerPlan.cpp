@@ -39,6 +39,13 @@ ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker m
         if (auto* hook = dynamic_cast<HookFunctor*>(functor.get()))
             hooks_.push_back(hook);
     collectFeedback(container);
+    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
+        for (const auto& port : owner->getInternalInputPorts()) {
+            if (auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get()))
+                internalFeedback_.push_back(feedback);
+            else
+                internalInputs_.push_back(port.get());
+        }
 }
 
 ContainerPlan::~ContainerPlan() = default;
@@ -71,16 +78,34 @@ FunctorScheduler& ContainerPlan::getScheduler(LogTag tag)
     return *scheduler_;
 }
 
+void ContainerPlan::startPass() const
+{
+    for (const auto& functor : container_.getFunctors()) {
+        functor->resetOutputPortData(true);
+        functor->resetInputPortData(false);
+    }
+    for (StrongInputPort* port : internalInputs_)
+        port->resetData();
+}
+
+void ContainerPlan::endPass() const
+{
+    for (HookFunctor* hook : hooks_) {
+        hook->Functor::preparePorts();
+        hook->pullInputs();
+    }
+    for (FeedbackStrongInputPort* port : feedback_)
+        port->pullFeedback();
+    for (StrongInputPort* port : internalInputs_)
+        port->pullData();
+    for (FeedbackStrongInputPort* port : internalFeedback_)
+        port->pullFeedback();
+}
+
 void ContainerPlan::clearFeedback() const
 {
     for (FeedbackStrongInputPort* port : feedback_)
         port->resetData();
-}
-
-void ContainerPlan::takeFeedback() const
-{
-    for (FeedbackStrongInputPort* port : feedback_)
-        port->pullFeedback();
 }
 
 } // namespace VRK

@@ -9,15 +9,17 @@
 
 namespace VRK {
 
+class ContainerFunctor;
 class FeedbackStrongInputPort;
 class FunctorContainer;
 class FunctorScheduler;
 class HookFunctor;
+class StrongInputPort;
 
 // What a pass over a container's contents needs, worked out once for a run: the
-// scheduler that orders them, the hook functors among them, and the feedback ports
-// whose cycle closes at this container (their reader and their peer's producer meet
-// nowhere deeper).
+// scheduler that orders them, the hook functors among them, the container's internal
+// inputs, and the feedback ports whose cycle closes at this container (their reader
+// and their peer's producer meet nowhere deeper).
 class ContainerPlan {
 public:
     using SchedulerMaker = std::function<std::unique_ptr<FunctorScheduler>()>;
@@ -30,12 +32,16 @@ public:
     // The scheduler, scheduled on the container on first request (again if `tag`
     // changes).
     FunctorScheduler& getScheduler(LogTag tag);
-    const std::vector<HookFunctor*>& getHooks() const { return hooks_; }
 
+    // A pass starts: the contents' outputs and pulled inputs, and the container's
+    // internal inputs, are emptied, so that nothing of an earlier pass leaks into it.
+    void startPass() const;
+    // A pass ended: the hook functors pull their inputs for their consumer, the
+    // feedback ports take what their peers produced in it, and the container's
+    // internal inputs what its contents produced.
+    void endPass() const;
     // A new run of the container starts: its cycles carry nothing yet.
     void clearFeedback() const;
-    // A pass ended: each feedback port takes what its peer produced in it.
-    void takeFeedback() const;
 
 private:
     void collectFeedback(const FunctorContainer& inner);
@@ -46,6 +52,8 @@ private:
     LogTag scheduledTag_ = debug;
     std::vector<HookFunctor*> hooks_;
     std::vector<FeedbackStrongInputPort*> feedback_;
+    std::vector<StrongInputPort*> internalInputs_;
+    std::vector<FeedbackStrongInputPort*> internalFeedback_;
 };
 
 } // namespace VRK

@@ -101,9 +101,16 @@ void Functor::onIndirectContainerAdded(FunctorContainer&, size_t) {}
 
 void Functor::onIndirectContainerErased(size_t) {}
 
+namespace {
+std::string describeRun(const void* functor)
+{
+    return "running " + static_cast<const Functor*>(functor)->getDisplayName();
+}
+} // namespace
+
 void Functor::run()
 {
-    Trace frame("running " + getDisplayName());
+    Trace frame(this, &describeRun);
     pullInputs();
     runImpl();
 }

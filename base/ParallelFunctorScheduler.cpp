@@ -20,9 +20,9 @@ namespace {
 // the one that brings a successor's count to zero starts it.
 class ParallelPass {
 public:
-    ParallelPass(const std::vector<Functor*>& order,
+    ParallelPass(const std::vector<Functor*>& order, const std::vector<ContainerFunctor*>& containers,
                  const std::vector<std::vector<size_t>>& waits, LogTag tag)
-        : order_(order), tag_(tag), remaining_(order.size()), successors_(order.size()),
+        : order_(order), containers_(containers), tag_(tag), remaining_(order.size()), successors_(order.size()),
           context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
           filter_(Logger::getCurrentThreadLogger()->getMainFilter())
     {
@@ -65,7 +65,7 @@ private:
             task = std::make_unique<Task::Activation>(task_);
         LoggerInitializer logger(filter_);
         try {
-            ContainerFunctorUtils::runFunctor(*order_[position], tag_);
+            ContainerFunctorUtils::runFunctor(*order_[position], containers_[position], tag_);
         } catch (...) {
             fail(std::current_exception());
             return;
@@ -84,6 +84,7 @@ private:
     }
 
     const std::vector<Functor*>& order_;
+    const std::vector<ContainerFunctor*>& containers_;
     LogTag tag_;
     std::vector<std::atomic<size_t>> remaining_;
     std::vector<std::vector<size_t>> successors_;
@@ -109,11 +110,11 @@ ParallelFunctorScheduler::~ParallelFunctorScheduler() = default;
 
 void ParallelFunctorScheduler::runImpl()
 {
-    if (getOrder().size() < 2) {
+    if (!hasIndependentFunctors()) {
         SequentialFunctorScheduler::runImpl();
         return;
     }
-    ParallelPass pass(getOrder(), getWaits(), getLogTag());
+    ParallelPass pass(getOrder(), getContainers(), getWaits(), getLogTag());
     pass.run();
 }
 

@@ -1,5 +1,6 @@
 #include "base/SequentialFunctorScheduler.h"
 
+#include "base/ContainerFunctor.h"
 #include "base/ContainerFunctorUtils.h"
 #include "base/FunctorContainer.h"
 #include "base/FunctorDependencies.h"
@@ -33,12 +34,14 @@ void SequentialFunctorScheduler::scheduleSelected(const FunctorDependencies& dep
     const size_t none = functors.size();
     std::vector<size_t> positions(functors.size(), none);
     order_.clear();
+    containers_.clear();
     waits_.clear();
     for (size_t index : dependencies.getOrder()) {
         if (!selected[index] || dynamic_cast<HookFunctor*>(functors[index]))
             continue;
         positions[index] = order_.size();
         order_.push_back(functors[index]);
+        containers_.push_back(dynamic_cast<ContainerFunctor*>(functors[index]));
         waits_.emplace_back();
         for (size_t predecessor : dependencies.getPredecessors(index))
             if (positions[predecessor] != none)
@@ -48,8 +51,8 @@ void SequentialFunctorScheduler::scheduleSelected(const FunctorDependencies& dep
 
 void SequentialFunctorScheduler::runImpl()
 {
-    for (Functor* functor : order_)
-        ContainerFunctorUtils::runFunctor(*functor, getLogTag());
+    for (size_t position = 0; position < order_.size(); ++position)
+        ContainerFunctorUtils::runFunctor(*order_[position], containers_[position], getLogTag());
 }
 
 Functor* SequentialFunctorScheduler::getScheduledFunctorImpl(size_t index)

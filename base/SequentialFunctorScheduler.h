@@ -7,6 +7,7 @@
 
 namespace VRK {
 
+class ContainerFunctor;
 class FunctorDependencies;
 
 // Runs a container's contents one after the other on the calling thread, each after
@@ -28,6 +29,8 @@ protected:
                           const std::vector<bool>& selected);
 
     const std::vector<Functor*>& getOrder() const { return order_; }
+    // For each scheduled functor, itself as a container, or none.
+    const std::vector<ContainerFunctor*>& getContainers() const { return containers_; }
     // For each scheduled functor, the positions in the order of those it waits for.
     const std::vector<std::vector<size_t>>& getWaits() const { return waits_; }
     // Whether two scheduled functors could run at the same time.
@@ -35,6 +38,7 @@ protected:
 
 private:
     std::vector<Functor*> order_;
+    std::vector<ContainerFunctor*> containers_;
     std::vector<std::vector<size_t>> waits_;
 };
 

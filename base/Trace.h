@@ -11,6 +11,9 @@ namespace VRK {
 class Trace {
 public:
     explicit Trace(const std::string& frame);
+    // A frame whose text is made only when the trace is read, as `describe(subject)`:
+    // frames opened for every functor run cost nothing until an error reads them.
+    Trace(const void* subject, std::string (*describe)(const void*));
     ~Trace();
     Trace(const Trace&) = delete;
     Trace& operator=(const Trace&) = delete;

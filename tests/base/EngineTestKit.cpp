@@ -187,7 +187,10 @@ std::condition_variable meetingArrived;
 int arrived = 0;
 } // namespace
 
-Meeting::Meeting(int count) : Functor("Meeting", "Waits for the others", nullptr), count_(count) {}
+Meeting::Meeting(int count, int patience)
+    : Functor("Meeting", "Waits for the others", nullptr), count_(count), patience_(patience)
+{
+}
 
 void Meeting::reset()
 {
@@ -200,7 +203,7 @@ void Meeting::runImpl()
     std::unique_lock<std::mutex> lock(meetingMutex);
     ++arrived;
     meetingArrived.notify_all();
-    const bool met = meetingArrived.wait_for(lock, std::chrono::seconds(5),
+    const bool met = meetingArrived.wait_for(lock, std::chrono::milliseconds(patience_),
                                              [this] { return arrived >= count_; });
     lock.unlock();
     const bool task = VRK::Task::getCurrentTask() != nullptr;

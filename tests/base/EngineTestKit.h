@@ -127,16 +127,18 @@ public:
     void runImpl() override;
 };
 
-// Waits until `count` meetings are running at the same time (or gives up after five
-// seconds), then journals whether they met, and the task and log level it ran under.
+// Waits until `count` meetings are running at the same time (or gives up after
+// `patience` milliseconds), then journals whether they met, and the task and log level
+// it ran under.
 class Meeting : public VRK::Functor {
 public:
-    explicit Meeting(int count);
+    explicit Meeting(int count, int patience = 5000);
     void runImpl() override;
     static void reset();
 
 private:
     int count_;
+    int patience_;
 };
 
 // Registers the four schedulers' cloners and the verifier that runs use, as the

@@ -100,8 +100,9 @@ TEST_F(Schedulers, ParallelRunsIndependentFunctorsAtOnceForTheCallersRun)
     for (bool automatic : {false, true}) {
         Meeting::reset();
         VRK::Script script;
-        add<Meeting>(script, "first", 2);
-        add<Meeting>(script, "second", 2);
+        // The automatic scheduler goes parallel for independent containers.
+        add<Meeting>(add<Loop>(script, "left", 1), "first", 2);
+        add<Meeting>(add<Loop>(script, "right", 1), "second", 2);
         if (automatic)
             script.run(task, VRK::AutoFunctorScheduler());
         else
@@ -109,6 +110,18 @@ TEST_F(Schedulers, ParallelRunsIndependentFunctorsAtOnceForTheCallersRun)
         EXPECT_EQ(Journal::take(), (std::vector<std::string>{"met with task at debug",
                                                              "met with task at debug"}));
     }
+}
+
+TEST_F(Schedulers, AutomaticRunsSmallPlainFunctorsOneAfterTheOther)
+{
+    Meeting::reset();
+    VRK::Script script;
+    add<Meeting>(script, "first", 2, 100);
+    add<Meeting>(script, "second", 2, 100);
+    script.run(task, VRK::AutoFunctorScheduler());
+    const auto entries = Journal::take();
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[0].rfind("alone", 0), 0u) << entries[0];
 }
 
 TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)

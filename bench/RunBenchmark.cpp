@@ -1,0 +1,189 @@
+// Running scripts. First the cost of a loop pass: a For over 1,000,000 steps whose
+// body passes the step through Step into MuxValue, next to a bare C++ loop that moves
+// the same values. Then a wide script, eight independent loops, under the parallel and
+// the automatic scheduler next to the sequential one. After the runs the program prints the ratios,
+// all measured in this one run.
+
+#include "base/AutoFunctorScheduler.h"
+#include "base/DefaultScriptReader.h"
+#include "base/FactoryFarmManager.h"
+#include "base/LogFilterHigherTags.h"
+#include "base/Logger.h"
+#include "base/ParallelFunctorScheduler.h"
+#include "base/Plugin.h"
+#include "base/ProcessorManager.h"
+#include "base/Script.h"
+#include "base/SequentialFunctorScheduler.h"
+#include "base/Task.h"
+
+#include <benchmark/benchmark.h>
+
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+
+extern "C" void registerPrimPlugin(VRK::Plugin& plugin);
+
+namespace {
+
+const int LoopSteps = 1000000;
+const int WideLoops = 8;
+const int WideSteps = 25000;
+
+// A For whose body passes the step through Step into MuxValue, fed back to the next pass.
+std::string loopText(const std::string& alias, int steps)
+{
+    std::ostringstream text;
+    text << alias << " := For firstIterationStep = 1 lastIterationStep = " << steps << " {\n"
+         << "    " << alias << "Step := Step step = " << alias << ".step;\n"
+         << "    " << alias << "Mux := MuxValue initial = 0 feedback = " << alias << "Step.step;\n"
+         << "}\n";
+    return text.str();
+}
+
+// A branch of the wide script: a For whose body is a chain, the step through Step into
+// a Double carrier, so that all parallelism lies between the branches.
+std::string branchText(const std::string& alias, int steps)
+{
+    std::ostringstream text;
+    text << alias << " := For firstIterationStep = 1 lastIterationStep = " << steps << " {\n"
+         << "    " << alias << "Step := Step step = " << alias << ".step;\n"
+         << "    Double constant = " << alias << "Step.step;\n"
+         << "}\n";
+    return text.str();
+}
+
+std::shared_ptr<VRK::Script> readScript(const std::string& text)
+{
+    auto script = std::make_shared<VRK::Script>();
+    std::istringstream in(text);
+    VRK::DefaultScriptReader().read(script.get(), in, "bench.vrk");
+    return script;
+}
+
+// The scripts, read once, with the log quiet so that loop banners cost nothing.
+struct Scripts {
+    Scripts()
+    {
+        VRK::Logger::getCurrentThreadLogger()->setMainFilter(
+            std::make_shared<VRK::LogFilterHigherTags>(VRK::error));
+        VRK::Logger::setDefaultFilter(std::make_shared<VRK::LogFilterHigherTags>(VRK::error));
+        VRK::Plugin plugin("Prim", "", VRK::FactoryFarmManager::Instance());
+        registerPrimPlugin(plugin);
+        loop = readScript(loopText("loop", LoopSteps));
+        std::string wideText;
+        for (int i = 0; i < WideLoops; ++i)
+            wideText += branchText("branch" + std::to_string(i), WideSteps);
+        wide = readScript(wideText);
+    }
+    static Scripts& get()
+    {
+        static Scripts scripts;
+        return scripts;
+    }
+    std::shared_ptr<VRK::Script> loop;
+    std::shared_ptr<VRK::Script> wide;
+};
+
+void run(benchmark::State& state, VRK::Script& script, const VRK::FunctorScheduler& scheduler)
+{
+    for (auto _ : state) {
+        VRK::Task task;
+        script.run(task, scheduler);
+    }
+}
+
+void scriptLoop(benchmark::State& state)
+{
+    run(state, *Scripts::get().loop, VRK::SequentialFunctorScheduler());
+    state.SetItemsProcessed(state.iterations() * LoopSteps);
+}
+
+// The values a pass moves: the step published, copied by Step, forwarded by MuxValue
+// (the initial value on the first pass, the step fed back afterwards).
+void bareLoop(benchmark::State& state)
+{
+    for (auto _ : state) {
+        double feedback = 0;
+        bool fed = false;
+        for (int step = 1; step <= LoopSteps; ++step) {
+            int copied = step;
+            benchmark::DoNotOptimize(copied);
+            double value = fed ? feedback : 0.0;
+            benchmark::DoNotOptimize(value);
+            feedback = copied;
+            fed = true;
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * LoopSteps);
+}
+
+void wideSequential(benchmark::State& state)
+{
+    run(state, *Scripts::get().wide, VRK::SequentialFunctorScheduler());
+}
+
+void wideParallel(benchmark::State& state)
+{
+    run(state, *Scripts::get().wide, VRK::ParallelFunctorScheduler());
+}
+
+void wideAuto(benchmark::State& state)
+{
+    run(state, *Scripts::get().wide, VRK::AutoFunctorScheduler());
+}
+
+BENCHMARK(scriptLoop)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(bareLoop)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(wideSequential)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(wideParallel)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(wideAuto)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// Shows the runs as usual and keeps each one's real time per iteration.
+class RecordingReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs)
+            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+                times[run.benchmark_name()] = run.GetAdjustedRealTime();
+    }
+    std::map<std::string, double> times;
+};
+
+double ratio(const RecordingReporter& reporter, const std::string& measured,
+             const std::string& baseline)
+{
+    auto time = reporter.times.find(measured + "/real_time");
+    auto base = reporter.times.find(baseline + "/real_time");
+    if (time == reporter.times.end() || base == reporter.times.end() || base->second <= 0)
+        return 0;
+    return time->second / base->second;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    Scripts::get();
+    RecordingReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    const unsigned int processors = VRK::ProcessorManager::Instance().getEffectiveProcessorCount();
+    std::cout << std::fixed << std::setprecision(1) << "\nRatios measured in this run:\n"
+              << "For loop pass / bare C++ loop pass:      " << std::setw(10)
+              << ratio(reporter, "scriptLoop", "bareLoop") << "\n"
+              << std::setprecision(2) << "wide script, sequential / parallel:      " << std::setw(10)
+              << ratio(reporter, "wideSequential", "wideParallel") << "  (" << processors
+              << " processors)\n"
+              << "wide script, sequential / automatic:     " << std::setw(10)
+              << ratio(reporter, "wideSequential", "wideAuto") << "\n";
+    benchmark::Shutdown();
+    return 0;
+}
