@@ -1,14 +1,24 @@
 #ifndef PRIM_PERCENTDATA_H
 #define PRIM_PERCENTDATA_H
 
-#include "base/PrimData.h"
+#include "plugins/prim/DoubleData.h"
 #include "plugins/prim/PercentEditor.h"
 #include "plugins/prim/PercentViewer.h"
 
 namespace Prim {
 
-// Percentual values, as the fraction 0..1; the range is the reader's and editor's to enforce.
-using PercentData = VRK::PrimData<double, PercentViewer, PercentEditor>;
+// Percentual values, as the fraction 0..1; the range is the reader's and editor's to
+// enforce. A percentage is a real (its type's parent is Double), so the datum is one:
+// it can be read wherever a Double is expected.
+class PercentData : public DoubleData {
+public:
+    using ViewerType = PercentViewer;
+    using EditorType = PercentEditor;
+
+    explicit PercentData(double value = 0.0);
+    PercentData(const PercentData&) = default;
+    ~PercentData() override;
+};
 
 } // namespace Prim
 

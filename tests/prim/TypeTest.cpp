@@ -162,6 +162,12 @@ TEST(Types, IntegersReadAsIntsAndAsReals)
     EXPECT_EQ(probe.getInputPortValue<Prim::IntData>("integer"), 9)
         << "a positive integer goes wherever an integer does";
     EXPECT_EQ(probe.getInputPortValue<Prim::DoubleData>("integer"), 9.0);
+
+    probe.getOutputPort("positive")->setDataPtr(std::make_shared<const Prim::PercentData>(0.25));
+    probe.getInputPort("real")->bind(probe.getOutputPort("positive"));
+    probe.getInputPort("real")->pullData();
+    EXPECT_EQ(probe.getInputPortValue<Prim::DoubleData>("real"), 0.25)
+        << "a percentage goes wherever a real does";
 }
 
 TEST(TypesDeathTest, ConstrainedIntegersAssertTheirRange)
