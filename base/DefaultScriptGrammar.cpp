@@ -63,10 +63,10 @@ struct DefaultScriptGrammar::definition {
         identifier = lexeme_d[word];
         quoted = lexeme_d[ch_p('"') >> *((ch_p('\\') >> anychar_p) | (anychar_p - '"')) >> '"'];
 
-        property = ch_p('@')
+        property = str_p("@")
                    >> transduced_assertive_p(identifier[on(a, &DefaultScriptActions::propertyName)],
                                              "Expecting a property name after \"@\".")
-                   >> transduced_assertive_p(ch_p('='), "Expecting \"=\" after the property name.")
+                   >> transduced_assertive_p(str_p("="), "Expecting \"=\" after the property name.")
                    >> transduced_assertive_p(quoted[on(a, &DefaultScriptActions::propertyValue)],
                                              "Expecting a property value enclosed by '\"'.");
 
@@ -93,7 +93,7 @@ struct DefaultScriptGrammar::definition {
                           a.aliasDefined();
                       })])
                   >> transduced_assertive_p(functorName, "Expecting a functor name.") >> *binding
-                  >> (ch_p(';') | contents
+                  >> (str_p(";") | contents
                       | eps_p[on(a, &DefaultScriptActions::unterminatedFunctor)]);
 
         statement = eps_p(ch_p('@') | alpha_p | '_')

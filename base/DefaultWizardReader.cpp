@@ -39,7 +39,7 @@ void DefaultWizardReader::readImpl(std::istream& in, const std::string& filename
         parameter.value.erase(parameter.value.find_last_not_of(" \t\r\n") + 1);
         parameter.position = DefaultScriptActions::positionOf(first);
     };
-    auto add = [&](char) { addParameter(parameter); };
+    auto add = [&](const ScriptIterator&, const ScriptIterator&) { addParameter(parameter); };
 
     // A value is the rest of the line up to its ";"; double-quoted and bracketed parts
     // (expressions) are taken whole, across lines too.
@@ -48,9 +48,9 @@ void DefaultWizardReader::readImpl(std::istream& in, const std::string& filename
     const Rule valueText = lexeme_d[+(quoted | bracketed | (anychar_p - ';' - '"' - '\n'))];
     const Rule statement =
         lexeme_d[word >> '.' >> word][name]
-        >> transduced_assertive_p(ch_p('='), "Expecting \"=\" after the name of the input.")
+        >> transduced_assertive_p(str_p("="), "Expecting \"=\" after the name of the input.")
         >> transduced_assertive_p(valueText[value], "Expecting a value.")
-        >> transduced_assertive_p(ch_p(';')[add], "Expecting \";\" after the value.");
+        >> transduced_assertive_p(str_p(";")[add], "Expecting \";\" after the value.");
     const Rule parameters =
         *statement >> transduced_assertive_p(end_p, "Expecting a parameter: alias.port = value;");
 
