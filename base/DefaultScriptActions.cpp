@@ -85,7 +85,7 @@ void DefaultScriptActions::beginFunctor(const ScriptIterator& first, const Scrip
 void DefaultScriptActions::unknownFunctor(const ScriptIterator& first, const ScriptIterator& last)
 {
     alias_.clear();
-    raise(first, "The functor \"" + textOf(first, last) + "\" is not registered.");
+    raise(first, ScriptBuilder::unknownFunctorMessage(textOf(first, last)));
 }
 
 // What stands where the inputs of a functor should go on or end: a word that starts

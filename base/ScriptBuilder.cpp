@@ -71,8 +71,7 @@ Functor& ScriptBuilder::beginFunctor(const std::string& name, const std::string&
 {
     auto factory = FactoryFarmManager::Instance().getFunctorFactory();
     if (!factory->isRegistered(name))
-        ExceptionUtils::raiseAt<ParseError>(position,
-                                            "The functor " + quoted(name) + " is not registered.");
+        ExceptionUtils::raiseAt<ParseError>(position, unknownFunctorMessage(name));
     Frame& frame = frames_.back();
     Functor* functor = frame.container->createFunctor(name, true);
     assert(functor != 0 && "functor != 0");
@@ -92,6 +91,11 @@ void ScriptBuilder::checkContainment(Functor& functor, const ScriptPosition& pos
     auto* container = dynamic_cast<ContainerFunctor*>(frames_.back().container);
     if (container && !container->isCompatible(&functor))
         ExceptionUtils::raiseAt<ParseError>(position, refusedContentMessage(functor, *container));
+}
+
+std::string ScriptBuilder::unknownFunctorMessage(const std::string& name)
+{
+    return "The functor " + quoted(name) + " is not registered.";
 }
 
 std::string ScriptBuilder::refusedContentMessage(const Functor& functor, const Functor& container)
