@@ -130,7 +130,8 @@ void Script::runTopLevel(Task& task, const FunctorScheduler& scheduler)
     RunContext::Activation active(context);
     try {
         ContainerFunctorUtils::runPass(*this, debug);
-    } catch (...) {
+    } catch (const std::exception&) {
+        // A cancellation is no functor's failure, whatever an error trap met before it.
         failedFunctor_ = context.getFailedFunctor();
         throw;
     }
