@@ -1,6 +1,7 @@
 #include "base/ScriptFiles.h"
 
 #include "base/AtomicFileWriter.h"
+#include "base/DirectoryStack.h"
 #include "base/ExceptionUtils.h"
 #include "base/FactoryFarmManager.h"
 #include "base/FileNotFoundException.h"
@@ -27,6 +28,12 @@ auto createFor(const FactoryT& factory, const std::string& filename, const char*
                                              + " is registered for files ending in \""
                                              + extension + "\" such as \"" + filename + "\".");
     return factory->create(extension);
+}
+
+boost::filesystem::path folderOf(const std::string& filename)
+{
+    const boost::filesystem::path folder = boost::filesystem::path(filename).parent_path();
+    return folder.empty() ? boost::filesystem::path(".") : folder;
 }
 
 } // namespace
@@ -57,6 +64,8 @@ std::shared_ptr<Script> ScriptFiles::read(const std::string& filename)
         ExceptionUtils::raise<FileNotFoundException>("The script \"" + filename
                                                      + "\" cannot be opened.");
     auto script = std::make_shared<Script>();
+    // Relative file names in a script mean what they say beside the script.
+    DirectoryStack beside(folderOf(filename));
     reader->read(script.get(), in, filename);
     return script;
 }
@@ -65,6 +74,8 @@ void ScriptFiles::write(Script& script, const std::string& filename)
 {
     std::shared_ptr<ScriptWriter> writer = createWriter(filename);
     writer->checkCompatibility(&script, filename);
+    // File names are written relative to the folder the script goes to.
+    DirectoryStack beside(folderOf(filename));
     AtomicFileWriter::write(filename, [&](std::ostream& out) {
         writer->write(&script, out, filename);
     });

@@ -1,5 +1,7 @@
 #include "plugins/prim/FilenameWriter.h"
 
+#include "base/PathUtils.h"
+
 #include "plugins/prim/FilenameEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
@@ -18,10 +20,14 @@ FilenameWriter::~FilenameWriter() = default;
 
 std::ostream& FilenameWriter::write(std::ostream& out, int) const
 {
-    // Outside any work directory a filename has no relative form; its full form is
-    // printed then, since an empty filename would not read back.
+    // Outside any work directory a filename has no relative form of its own; it is
+    // printed relative to the folder the script is written to, so that a script keeps
+    // naming the same files wherever it is moved together with them.
     const std::string relative = editor_->getRelativeFilename();
-    return out << '"' << (relative.empty() ? editor_->getFullFilename() : relative) << '"';
+    if (!relative.empty())
+        return out << '"' << relative << '"';
+    return out << '"' << VRK::Boost::PathUtils::getRelativePath(editor_->getFullFilename()).string()
+               << '"';
 }
 
 } // namespace Prim

@@ -1,3 +1,4 @@
+#include "base/DirectoryStack.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/BoolReader.h"
 #include "plugins/prim/BoolWriter.h"
@@ -196,11 +197,12 @@ TYPED_TEST(WriterTest, QuotedValuesAreWrittenBetweenQuotes)
     EXPECT_EQ((this->template roundTrip<PathWriter, PathReader>(path, pathBack)), "");
     EXPECT_EQ(pathBack.getPath(), path.getPath());
 
-    // Without a work directory a folder has only its full form.
+    // Without a work directory a folder is written relative to the current folder (the
+    // folder a script is written to), and reads back as the same full path.
     FolderEditor folder;
     FolderEditor folderBack;
     folder.setFilename(R"(out\sub)", false);
-    EXPECT_EQ(written<FolderWriter>(folder), "\"" + folder.getFullFilename() + "\"");
+    EXPECT_EQ(written<FolderWriter>(folder), "\"out/sub\"");
     EXPECT_EQ((this->template roundTrip<FolderWriter, FolderReader>(folder, folderBack)), "");
     EXPECT_EQ(folderBack.getFullFilename(), folder.getFullFilename());
     EXPECT_EQ(written<FilenameWriter>(folder), written<FolderWriter>(folder));
@@ -258,15 +260,16 @@ TEST(FilenameWriterTest, CopiesWriteTheirOwnEditor)
 {
     FolderEditor first;
     FolderEditor second;
+    VRK::DirectoryStack inData("/data");
     first.setFilename("/data/one", false);
-    second.setFilename("/data/two", false);
+    second.setFilename("/elsewhere/two", false);
     FilenameWriter writer(&first);
     const FilenameWriter copy(writer);
     writer = FilenameWriter(&second);
     std::ostringstream out;
     copy.write(out, 0);
     writer.write(out << ' ', 0);
-    EXPECT_EQ(out.str(), "\"/data/one\" \"/data/two\"");
+    EXPECT_EQ(out.str(), "\"one\" \"../elsewhere/two\"");
 }
 
 } // namespace
