@@ -5,7 +5,6 @@
 #include "base/Logger.h"
 
 #include <sstream>
-#include <string>
 
 namespace Prim {
 
@@ -26,8 +25,6 @@ public:
         write(line);
         logger->log(tag, line.str(), false);
     }
-
-    static void debug(const std::string& text);
 
     // Brackets one run of a block's contents, `step`, with "<name>: Running single
     // step:" and "<name>: Single step completed successfully.". A failure of the step
