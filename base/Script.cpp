@@ -5,6 +5,7 @@
 #include "base/FactoryFarmManager.h"
 #include "base/HookFunctor.h"
 #include "base/LightFunctorScheduler.h"
+#include "base/LightRunGuard.h"
 #include "base/RunContext.h"
 #include "base/ScriptVerifier.h"
 #include "base/Task.h"
@@ -73,32 +74,6 @@ std::vector<const InputPort*> pulledInputs(const Functor& functor)
                     inputs.push_back(port.get());
     return inputs;
 }
-
-// The functors being run lightly on this thread: a cycle among them stops there.
-class LightRunGuard {
-public:
-    explicit LightRunGuard(const Functor* functor) : functor_(functor)
-    {
-        running().push_back(functor);
-    }
-    ~LightRunGuard() { running().pop_back(); }
-    LightRunGuard(const LightRunGuard&) = delete;
-    LightRunGuard& operator=(const LightRunGuard&) = delete;
-
-    static bool isRunning(const Functor* functor)
-    {
-        return std::find(running().begin(), running().end(), functor) != running().end();
-    }
-
-private:
-    static std::vector<const Functor*>& running()
-    {
-        thread_local std::vector<const Functor*> functors;
-        return functors;
-    }
-
-    const Functor* functor_;
-};
 
 } // namespace
 

@@ -1,0 +1,76 @@
+#include "base/ParallelPass.h"
+
+#include "base/ContainerFunctorUtils.h"
+#include "base/Logger.h"
+#include "base/LoggerInitializer.h"
+#include "base/RunContext.h"
+#include "base/Task.h"
+
+namespace VRK {
+
+ParallelPass::ParallelPass(const std::vector<Functor*>& order,
+                           const std::vector<ContainerFunctor*>& containers,
+                           const std::vector<std::vector<size_t>>& waits, LogTag tag)
+    : order_(order), containers_(containers), tag_(tag), remaining_(order.size()),
+      successors_(order.size()), context_(RunContext::getCurrent()),
+      task_(Task::getCurrentTask()), filter_(Logger::getCurrentThreadLogger()->getMainFilter())
+{
+    for (size_t position = 0; position < order.size(); ++position) {
+        remaining_[position] = waits[position].size();
+        for (size_t waited : waits[position])
+            successors_[waited].push_back(position);
+    }
+}
+
+ParallelPass::~ParallelPass() = default;
+
+// The roots are picked before any starts: once one runs, the counts move.
+void ParallelPass::run()
+{
+    std::vector<size_t> roots;
+    for (size_t position = 0; position < order_.size(); ++position)
+        if (remaining_[position] == 0)
+            roots.push_back(position);
+    for (size_t root : roots)
+        start(root);
+    group_.wait();
+    if (error_)
+        std::rethrow_exception(error_);
+}
+
+void ParallelPass::start(size_t position)
+{
+    group_.run([this, position] { runOnWorker(position); });
+}
+
+void ParallelPass::runOnWorker(size_t position)
+{
+    if (failed_.load())
+        return;
+    std::unique_ptr<RunContext::Activation> context;
+    std::unique_ptr<Task::Activation> task;
+    if (context_)
+        context = std::make_unique<RunContext::Activation>(*context_);
+    else
+        task = std::make_unique<Task::Activation>(task_);
+    LoggerInitializer logger(filter_);
+    try {
+        ContainerFunctorUtils::runFunctor(*order_[position], containers_[position], tag_);
+    } catch (...) {
+        fail(std::current_exception());
+        return;
+    }
+    for (size_t successor : successors_[position])
+        if (--remaining_[successor] == 0)
+            start(successor);
+}
+
+void ParallelPass::fail(std::exception_ptr error)
+{
+    std::lock_guard<std::mutex> lock(errorMutex_);
+    if (!error_)
+        error_ = error;
+    failed_.store(true);
+}
+
+} // namespace VRK
