@@ -11,8 +11,8 @@ namespace {
 // Whether `functor` is `container` or lies inside it.
 bool isWithin(const Functor* functor, const FunctorContainer& container)
 {
-    for (; functor; functor = functor->getContainer() ? functor->getContainer()->asFunctor()
-                                                      : nullptr) {
+    for (; functor;
+         functor = functor->getContainer() ? functor->getContainer()->asFunctor() : nullptr) {
         if (functor == container.asFunctor() || functor->getContainer() == &container)
             return true;
     }

@@ -29,8 +29,7 @@ void forEachInputWithin(const Functor& functor, const std::function<void(const I
 
 } // namespace
 
-FunctorDependencies::FunctorDependencies(const FunctorContainer& container)
-    : container_(container)
+FunctorDependencies::FunctorDependencies(const FunctorContainer& container) : container_(container)
 {
     for (const auto& functor : container.getFunctors()) {
         indexes_[functor.get()] = functors_.size();
@@ -107,7 +106,8 @@ void FunctorDependencies::raiseCycle(const std::vector<size_t>& unordered) const
     std::vector<size_t> walk{unordered.front()};
     for (;;) {
         const auto& predecessors = predecessors_[walk.back()];
-        const size_t previous = *std::find_if(predecessors.begin(), predecessors.end(), isUnordered);
+        const size_t previous =
+            *std::find_if(predecessors.begin(), predecessors.end(), isUnordered);
         auto seen = std::find(walk.begin(), walk.end(), previous);
         if (seen != walk.end()) {
             walk.erase(walk.begin(), seen);

@@ -47,8 +47,8 @@ void LightFunctorScheduler::scheduleImpl()
     FunctorDependencies dependencies(*getContainer());
     const auto& functors = dependencies.getFunctors();
     std::vector<bool> selected(functors.size(), target_ == nullptr);
-    Functor* holder = target_ ? FunctorDependencies::liftToContainer(target_, *getContainer())
-                              : nullptr;
+    Functor* holder =
+        target_ ? FunctorDependencies::liftToContainer(target_, *getContainer()) : nullptr;
     if (holder) {
         const size_t index = std::find(functors.begin(), functors.end(), holder) - functors.begin();
         selectWithNeeds(dependencies, index, selected);

@@ -12,8 +12,8 @@ ParallelPass::ParallelPass(const std::vector<Functor*>& order,
                            const std::vector<ContainerFunctor*>& containers,
                            const std::vector<std::vector<size_t>>& waits, LogTag tag)
     : order_(order), containers_(containers), tag_(tag), remaining_(order.size()),
-      successors_(order.size()), context_(RunContext::getCurrent()),
-      task_(Task::getCurrentTask()), filter_(Logger::getCurrentThreadLogger()->getMainFilter())
+      successors_(order.size()), context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
+      filter_(Logger::getCurrentThreadLogger()->getMainFilter())
 {
     for (size_t position = 0; position < order.size(); ++position) {
         remaining_[position] = waits[position].size();

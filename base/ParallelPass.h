@@ -27,7 +27,8 @@ class ParallelPass {
 public:
     // `order` lists the functors, `containers` each one as a container or none, and
     // `waits` for each the positions in `order` of those it waits for.
-    ParallelPass(const std::vector<Functor*>& order, const std::vector<ContainerFunctor*>& containers,
+    ParallelPass(const std::vector<Functor*>& order,
+                 const std::vector<ContainerFunctor*>& containers,
                  const std::vector<std::vector<size_t>>& waits, LogTag tag);
     ~ParallelPass();
     ParallelPass(const ParallelPass&) = delete;

@@ -179,7 +179,8 @@ int main(int argc, char** argv)
     std::cout << std::fixed << std::setprecision(1) << "\nRatios measured in this run:\n"
               << "For loop pass / bare C++ loop pass:      " << std::setw(10)
               << ratio(reporter, "scriptLoop", "bareLoop") << "\n"
-              << std::setprecision(2) << "wide script, sequential / parallel:      " << std::setw(10)
+              << std::setprecision(2)
+              << "wide script, sequential / parallel:      " << std::setw(10)
               << ratio(reporter, "wideSequential", "wideParallel") << "  (" << processors
               << " processors)\n"
               << "wide script, sequential / automatic:     " << std::setw(10)

@@ -66,8 +66,8 @@ void reportRunError(const VRK::Script& script, const std::exception& error,
         VRK::ScriptPosition position = failed->getPosition();
         if (!position.isKnown())
             position = VRK::ScriptPosition{script.getFilename(), 0, 0};
-        diagnostics.print("The run of " + VRK::ScriptBuilder::describe(*failed) + " failed: "
-                              + message,
+        diagnostics.print("The run of " + VRK::ScriptBuilder::describe(*failed)
+                              + " failed: " + message,
                           position);
     } else if (hostError) {
         diagnostics.print(*hostError, script.getFilename());
@@ -118,8 +118,7 @@ int RunCommand::run(const Options& options, std::ostream& err)
     const unsigned int processors = processor.getProcessorCount();
     if (options.processors)
         processor.setProcessorCount(*options.processors);
-    const int status =
-        runScript(*script, schedulerNames().at(options.scheduler), diagnostics, err);
+    const int status = runScript(*script, schedulerNames().at(options.scheduler), diagnostics, err);
     logger->setMainFilter(filter);
     processor.setProcessorCount(processors);
     return status;

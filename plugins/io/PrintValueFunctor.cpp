@@ -12,8 +12,8 @@ namespace Io {
 PrintValue::PrintValue() : Functor("PrintValue", "Write a value to the log.", nullptr)
 {
     addInputPort("value", "Value to write.", Prim::DoubleType::getInstance(), false);
-    addOptionalInputPort("label", "Text written before the value.",
-                         Prim::StringType::getInstance(), false, 0);
+    addOptionalInputPort("label", "Text written before the value.", Prim::StringType::getInstance(),
+                         false, 0);
 }
 
 PrintValue::~PrintValue() = default;

@@ -34,9 +34,8 @@ public:
     {
         log(VRK::debug, [&](std::ostream& line) { line << name << ": Running single step:"; });
         step();
-        log(VRK::debug, [&](std::ostream& line) {
-            line << name << ": Single step completed successfully.";
-        });
+        log(VRK::debug,
+            [&](std::ostream& line) { line << name << ": Single step completed successfully."; });
     }
 };
 

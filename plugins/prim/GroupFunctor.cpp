@@ -11,7 +11,8 @@ Group::~Group() = default;
 
 void Group::runContainerImpl()
 {
-    ControlLog::singleStep("Group", [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
+    ControlLog::singleStep("Group",
+                           [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
 }
 
 } // namespace Prim

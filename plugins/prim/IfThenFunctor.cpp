@@ -6,8 +6,7 @@
 
 namespace Prim {
 
-IfThen::IfThen()
-    : ContainerFunctor("IfThen", "Execute contained functors conditionally.", nullptr)
+IfThen::IfThen() : ContainerFunctor("IfThen", "Execute contained functors conditionally.", nullptr)
 {
     addInputPort("condition", "", BoolType::getInstance(), false);
 }

@@ -13,10 +13,10 @@ LogPolicy::LogPolicy()
     : ContainerFunctor("LogPolicy", "Execute contained functors, setting maximum log level.",
                        nullptr)
 {
-    auto* maximumLogLevel = dynamic_cast<LogTagEditor*>(
-        addOptionalInputPort("maximumLogLevel", "Maximum log Level.", LogTagType::getInstance(),
-                             false, 0)
-            .get());
+    auto* maximumLogLevel =
+        dynamic_cast<LogTagEditor*>(addOptionalInputPort("maximumLogLevel", "Maximum log Level.",
+                                                         LogTagType::getInstance(), false, 0)
+                                        .get());
     assert(maximumLogLevel != 0 && "maximumLogLevel != 0");
     maximumLogLevel->setLogTag(VRK::trace);
     addOptionalInputPort("forceSpecifiedLogLevel", "Only the specified maximum level is reported.",
@@ -42,8 +42,8 @@ void LogPolicy::runContainerImpl()
         logger->setMainFilter(filter3);
     }
     try {
-        ControlLog::singleStep("LogPolicy",
-                               [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
+        ControlLog::singleStep(
+            "LogPolicy", [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
     } catch (...) {
         logger->setMainFilter(filter);
         throw;

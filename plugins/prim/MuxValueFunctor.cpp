@@ -24,10 +24,11 @@ MuxValue::~MuxValue() = default;
 void MuxValue::runImpl()
 {
     const bool fed = getInputPort("feedback")->hasData();
-    setOutputPortValue<DoubleData>("value", getInputPortValue<DoubleData>(fed ? "feedback" : "initial"));
+    setOutputPortValue<DoubleData>("value",
+                                   getInputPortValue<DoubleData>(fed ? "feedback" : "initial"));
     ControlLog::log(VRK::debug, [&](std::ostream& line) {
-        line << "Functor \"" << getName() << ":" << static_cast<const void*>(this) << "\" forwarded the "
-             << (fed ? "feedback" : "initial") << " data.";
+        line << "Functor \"" << getName() << ":" << static_cast<const void*>(this)
+             << "\" forwarded the " << (fed ? "feedback" : "initial") << " data.";
     });
 }
 

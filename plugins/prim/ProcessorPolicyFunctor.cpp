@@ -9,8 +9,9 @@
 namespace Prim {
 
 ProcessorPolicy::ProcessorPolicy()
-    : ContainerFunctor("ProcessorPolicy", "Execute contained functors using a specified processor "
-                                          "policy.",
+    : ContainerFunctor("ProcessorPolicy",
+                       "Execute contained functors using a specified processor "
+                       "policy.",
                        nullptr)
 {
     addOptionalInputPort("maximumNumberOfProcessors",
@@ -36,8 +37,9 @@ void ProcessorPolicy::runContainerImpl()
         processor.setProcessorCount(unsigned(count));
     }
     try {
-        ControlLog::singleStep("ProcessorPolicy",
-                               [this] { VRK::ContainerFunctorUtils::runFunctorsInContainer(*this); });
+        ControlLog::singleStep("ProcessorPolicy", [this] {
+            VRK::ContainerFunctorUtils::runFunctorsInContainer(*this);
+        });
     } catch (...) {
         processor.setProcessorCount(found);
         throw;

@@ -96,7 +96,8 @@ void Probe::runImpl() { Journal::add(getAlias() + "=" + valueOf(*getInputPort("v
 Mux::Mux() : Functor("Mux", "Initial value, then the feedback", nullptr)
 {
     addInputPort("initial", "First value", NumberType::getInstance(), true);
-    addInputPort(VRK::FeedbackStrongInputPort("feedback", "Previous pass", NumberType::getInstance()));
+    addInputPort(
+        VRK::FeedbackStrongInputPort("feedback", "Previous pass", NumberType::getInstance()));
     addOutputPort("value", "The value", NumberType::getInstance());
 }
 
@@ -113,8 +114,8 @@ Loop::Loop(int passes, LastPort last)
 {
     addInternalOutputPort("step", "The pass", NumberType::getInstance());
     if (last == LastPort::feedback)
-        addInternalInputPort(VRK::FeedbackStrongInputPort("last", "Produced in a pass",
-                                                          NumberType::getInstance()));
+        addInternalInputPort(
+            VRK::FeedbackStrongInputPort("last", "Produced in a pass", NumberType::getInstance()));
     else if (last == LastPort::plain)
         addInternalInputPort("last", "Produced in a pass", NumberType::getInstance());
 }

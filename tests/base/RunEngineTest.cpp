@@ -163,7 +163,8 @@ TEST_F(RunEngine, HooksAreNotRunButReceiveTheirInputs)
     bind(hook, "value", source);
     EXPECT_EQ(run(), "s s");
     ASSERT_TRUE(hook.getInputPort("value")->hasData());
-    EXPECT_EQ(dynamic_cast<const NumberData&>(hook.getInputPort("value")->getData()).getValue(), 4.0);
+    EXPECT_EQ(dynamic_cast<const NumberData&>(hook.getInputPort("value")->getData()).getValue(),
+              4.0);
 }
 
 TEST_F(RunEngine, FailureIsLaidOnTheInnermostFunctorAndReportedOnce)
@@ -178,9 +179,10 @@ TEST_F(RunEngine, FailureIsLaidOnTheInnermostFunctorAndReportedOnce)
     const auto lines = capture.lines();
     EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
                             [](const std::string& line) {
-                                return line.rfind("The run of functor \"f\" failed: "
-                                                  "RuntimeException: The functor failed on purpose.",
-                                                  0)
+                                return line.rfind(
+                                           "The run of functor \"f\" failed: "
+                                           "RuntimeException: The functor failed on purpose.",
+                                           0)
                                        == 0;
                             }),
               1);

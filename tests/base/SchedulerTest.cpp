@@ -107,8 +107,8 @@ TEST_F(Schedulers, ParallelRunsIndependentFunctorsAtOnceForTheCallersRun)
             script.run(task, VRK::AutoFunctorScheduler());
         else
             script.run(task, VRK::ParallelFunctorScheduler());
-        EXPECT_EQ(Journal::take(), (std::vector<std::string>{"met with task at debug",
-                                                             "met with task at debug"}));
+        EXPECT_EQ(Journal::take(),
+                  (std::vector<std::string>{"met with task at debug", "met with task at debug"}));
     }
 }
 

@@ -34,7 +34,8 @@ TEST(PrintValue, ShortestDecimalThatReadsBack)
     EXPECT_EQ(Io::PrintValue::format(0.1 + 0.2), "0.30000000000000004");
     const double third = 1.0 / 3.0;
     EXPECT_EQ(std::stod(Io::PrintValue::format(third)), third);
-    EXPECT_EQ(Io::PrintValue::format(std::numeric_limits<double>::max()), "1.7976931348623157e+308");
+    EXPECT_EQ(Io::PrintValue::format(std::numeric_limits<double>::max()),
+              "1.7976931348623157e+308");
 }
 
 TEST(PrintValue, LogsLabelAndValueAtResult)

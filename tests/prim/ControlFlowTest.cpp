@@ -223,8 +223,8 @@ TEST_F(ControlFlow, ForRunsItsInclusiveAscendingRange)
         int first, last, increment;
         std::vector<std::string> steps;
     };
-    for (const Case& range : {Case{3, 3, 1, {"3"}}, Case{4, 3, 1, {}}, Case{0, 10, 3, {"0", "3", "6", "9"}},
-                              Case{1, 4, 2, {"1", "3"}}}) {
+    for (const Case& range : {Case{3, 3, 1, {"3"}}, Case{4, 3, 1, {}},
+                              Case{0, 10, 3, {"0", "3", "6", "9"}}, Case{1, 4, 2, {"1", "3"}}}) {
         VRK::Functor& loop = probedLoop("For");
         setCount(loop, "firstIterationStep", range.first);
         setCount(loop, "lastIterationStep", range.last);
@@ -236,10 +236,10 @@ TEST_F(ControlFlow, ForRunsItsInclusiveAscendingRange)
             EXPECT_EQ(logged, std::vector<std::string>{});
         }
         if (range.first == 3) {
-            EXPECT_EQ(logged,
-                      (std::vector<std::string>{"\n===[ Running step 3, from 3 to 3 ]===\n",
-                                                "For: Running step 3, from 3 to 3:",
-                                                "For: Step 3, from 3 to 3, completed successfully."}));
+            EXPECT_EQ(logged, (std::vector<std::string>{
+                                  "\n===[ Running step 3, from 3 to 3 ]===\n",
+                                  "For: Running step 3, from 3 to 3:",
+                                  "For: Step 3, from 3 to 3, completed successfully."}));
         }
     }
 }
@@ -320,8 +320,9 @@ TEST_F(ControlFlow, SkipOnErrorTrapsModelErrorsOnly)
         std::string kind;
         std::string trapped;
     };
-    for (const Case& test : {Case{"host", "Trapping and ignoring error: RuntimeException: Step failed."},
-                             Case{"standard", "Trapping and ignoring error: standard failure"}}) {
+    for (const Case& test :
+         {Case{"host", "Trapping and ignoring error: RuntimeException: Step failed."},
+          Case{"standard", "Trapping and ignoring error: standard failure"}}) {
         Thrower::kind = test.kind;
         Thrower::failingStep = 2;
         VRK::Functor& loop = create(script, "Repeat");
@@ -382,7 +383,7 @@ TEST_F(ControlFlow, ConditionalBlocksRunOnlyOnTheirCondition)
     }
     run(create(script, "Group"), VRK::debug);
     EXPECT_EQ(logged, (std::vector<std::string>{"Group: Running single step:",
-                                                         "Group: Single step completed successfully."}));
+                                                "Group: Single step completed successfully."}));
 }
 
 namespace {
@@ -419,8 +420,9 @@ TEST_F(ControlFlow, LogPolicyNarrowsUnlessForcedAndAlwaysRestores)
         bool fail;
         std::string inside;
     };
-    for (const Case& test : {Case{VRK::trace, false, false, "info"}, Case{VRK::trace, true, false, "debug"},
-                             Case{VRK::warning, false, true, "warning"}}) {
+    for (const Case& test :
+         {Case{VRK::trace, false, false, "info"}, Case{VRK::trace, true, false, "debug"},
+          Case{VRK::warning, false, true, "warning"}}) {
         VRK::Functor& policy = create(script, "LogPolicy");
         editor<Prim::LogTagEditor>(policy, "maximumLogLevel").setLogTag(test.level);
         setFlag(policy, "forceSpecifiedLogLevel", test.force);
@@ -432,7 +434,9 @@ TEST_F(ControlFlow, LogPolicyNarrowsUnlessForcedAndAlwaysRestores)
         else
             run(policy);
         Observer::fail = false;
-        std::string expected = test.inside == "debug" ? "debuginfowarning" : test.inside == "info" ? "infowarning" : "warning";
+        std::string expected = test.inside == "debug"  ? "debuginfowarning"
+                               : test.inside == "info" ? "infowarning"
+                                                       : "warning";
         EXPECT_EQ(seen, std::vector<std::string>{expected + " " + std::to_string(processors)});
         EXPECT_TRUE(restored);
     }
@@ -455,8 +459,8 @@ TEST_F(ControlFlow, ProcessorPolicyLowersUnlessForcedAndAlwaysRestores)
         bool fail;
         unsigned int inside;
     };
-    for (const Case& test : {Case{0, false, false, 2}, Case{0, true, false, 0}, Case{7, false, false, 2},
-                             Case{1, false, true, 1}}) {
+    for (const Case& test : {Case{0, false, false, 2}, Case{0, true, false, 0},
+                             Case{7, false, false, 2}, Case{1, false, true, 1}}) {
         VRK::Functor& policy = create(script, "ProcessorPolicy");
         setCount(policy, "maximumNumberOfProcessors", test.count);
         setFlag(policy, "forceSpecifiedNumberOfProcessors", test.force);
@@ -468,12 +472,14 @@ TEST_F(ControlFlow, ProcessorPolicyLowersUnlessForcedAndAlwaysRestores)
         else
             run(policy, VRK::debug);
         Observer::fail = false;
-        EXPECT_EQ(seen, std::vector<std::string>{"debuginfowarning " + std::to_string(test.inside)});
+        EXPECT_EQ(seen,
+                  std::vector<std::string>{"debuginfowarning " + std::to_string(test.inside)});
         EXPECT_EQ(processor.getProcessorCount(), 2u);
         const auto lines = logged;
         const bool redefined = test.inside != 2;
         EXPECT_EQ(std::count(lines.begin(), lines.end(),
-                             "ProcessorPolicy: Redefining processors to " + std::to_string(test.count) + "."),
+                             "ProcessorPolicy: Redefining processors to "
+                                 + std::to_string(test.count) + "."),
                   redefined ? 1 : 0);
     }
     processor.setProcessorCount(processors);
