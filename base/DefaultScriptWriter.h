@@ -2,8 +2,8 @@
 #define VRK_BASE_DEFAULTSCRIPTWRITER_H
 
 #include "base/ScriptWriter.h"
+#include "base/ScriptWritingPlan.h"
 
-#include <map>
 #include <ostream>
 #include <set>
 #include <string>
@@ -11,7 +11,6 @@
 namespace VRK {
 
 class Functor;
-class InputPort;
 
 // Writes text scripts (".vrk"): one functor a statement, contents indented inside
 // braces, bindings and values in port order, values through the writers registered
@@ -41,24 +40,17 @@ protected:
     void writeImpl(Script* script, std::ostream& out, const std::string& filename) override;
 
 private:
-    using Aliases = std::map<const Functor*, std::string>;
-
-    Aliases assignAliases(const Script& script) const;
     void writeScriptProperties(const Script& script, std::ostream& out) const;
-    void writeFunctor(const Functor& functor, const Aliases& aliases, int depth,
+    void writeFunctor(const Functor& functor, const ScriptWritingPlan& plan, int depth,
                       std::ostream& out) const;
-    void writeInputs(const Functor& functor, const Aliases& aliases, std::ostream& out) const;
-    void writeValue(const InputPort& port, std::ostream& out) const;
-    bool isWritten(const InputPort& port) const;
-    bool isWrittenBinding(const InputPort& port) const;
+    static void writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
+                            std::ostream& out);
     std::ostream& indent(std::ostream& out, int depth) const;
 
     int indentWidth_;
     bool writeProperties_;
-    bool writeUnsetValues_;
-    bool writeAllAliases_;
-    bool writeHostBindings_;
     bool separateTopLevel_;
+    ScriptWritingPlan::Options planOptions_;
 };
 
 } // namespace VRK

@@ -8,6 +8,7 @@
 #include "base/FileException.h"
 #include "base/NameUtils.h"
 #include "base/PortScope.h"
+#include "base/Properties.h"
 #include "base/Script.h"
 #include "base/WorkdirBinding.h"
 
@@ -54,6 +55,7 @@ void ScriptWritingPlan::check(const std::string& filename) const
         ExceptionUtils::raise<FileException>("The script cannot be written to \"" + filename
                                              + "\": " + reason);
     };
+    checkPropertyNames(script_.getProperties(), refuse);
     std::set<std::string> aliases;
     forEachFunctor(script_, [&](const Functor& functor) {
         const std::string& alias = functor.getAlias();
@@ -61,6 +63,7 @@ void ScriptWritingPlan::check(const std::string& filename) const
             refuse("the alias \"" + alias + "\" is not an identifier.");
         if (!alias.empty() && !aliases.insert(alias).second)
             refuse("the alias \"" + alias + "\" names two functors.");
+        checkPropertyNames(functor.getProperties(), refuse);
         for (const InputPort* port : PortScope::getAllInputs(functor)) {
             if (isWrittenBinding(*port) && !functors.count(peerOwner(*port)))
                 refuse("the input \"" + port->getName() + "\" of \"" + functor.getName()
@@ -71,6 +74,16 @@ void ScriptWritingPlan::check(const std::string& filename) const
                        + "\".");
         }
     });
+}
+
+void ScriptWritingPlan::checkPropertyNames(
+    const Properties& properties, const std::function<void(const std::string&)>& refuse) const
+{
+    if (!options_.identifierPropertyNames)
+        return;
+    for (const auto& property : properties.getAll())
+        if (!NameUtils::isValidName(property.first))
+            refuse("the property name \"" + property.first + "\" is not an identifier.");
 }
 
 bool ScriptWritingPlan::isWrittenBinding(const InputPort& port) const

@@ -10,6 +10,7 @@ namespace VRK {
 class Functor;
 class FunctorContainer;
 class InputPort;
+class Properties;
 class Script;
 
 // What a script writer of any format puts down, so that every format says the same:
@@ -26,13 +27,16 @@ public:
         bool writeAllAliases = false;
         // Also the bindings the host makes by itself (work directories).
         bool writeHostBindings = false;
+        // Property names must be identifiers, for a format that spells them bare.
+        bool identifierPropertyNames = false;
     };
 
     ScriptWritingPlan(const Script& script, const Options& options);
 
     // Throws a FileException naming `filename` when what would be written could not be
     // read back: an alias that is no identifier or names two functors, a value without
-    // a registered writer, a binding that leads out of the script.
+    // a registered writer, a binding that leads out of the script, and where the options
+    // ask for it a property name that is no identifier.
     void check(const std::string& filename) const;
 
     bool isWritten(const InputPort& port) const;
@@ -50,6 +54,8 @@ public:
 
 private:
     void assignAliases();
+    void checkPropertyNames(const Properties& properties,
+                            const std::function<void(const std::string&)>& refuse) const;
 
     const Script& script_;
     Options options_;

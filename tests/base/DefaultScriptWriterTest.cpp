@@ -118,6 +118,9 @@ TEST(DefaultScriptWriter, AFailedWriteLeavesTheTargetAsItWas)
     // A property that no text script can spell.
     script->getFunctor(0)->setProperty("two words", "x");
     EXPECT_THROW(VRK::ScriptFiles::write(*script, target), VRK::Exception);
+    std::ostringstream withoutProperties;
+    VRK::DefaultScriptWriter(4, false).write(script.get(), withoutProperties, "bare.vrk");
+    EXPECT_EQ(withoutProperties.str(), "TestSource constant = 4;\n");
     std::ifstream in(target);
     std::string content((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     EXPECT_EQ(content, "old content\n");
