@@ -5,11 +5,25 @@
 #include "base/FunctorContainer.h"
 #include "base/FunctorScheduler.h"
 
+#include <atomic>
+
 namespace VRK {
 
 namespace {
 
 thread_local RunContext* currentContext = nullptr;
+
+std::atomic<unsigned long> runSerials{0};
+
+// The plans this thread asked for last, by run serial and container.
+struct RememberedPlan {
+    unsigned long serial;
+    const FunctorContainer* container;
+    ContainerPlan* plan;
+};
+const size_t RememberedPlanCount = 8;
+thread_local RememberedPlan rememberedPlans[RememberedPlanCount] = {};
+thread_local size_t nextRememberedPlan = 0;
 
 bool isInside(const Functor* inner, const Functor& outer)
 {
@@ -23,7 +37,7 @@ bool isInside(const Functor* inner, const Functor& outer)
 } // namespace
 
 RunContext::RunContext(Task& task, SchedulerMaker makeScheduler)
-    : task_(task), makeScheduler_(std::move(makeScheduler))
+    : serial_(++runSerials), task_(task), makeScheduler_(std::move(makeScheduler))
 {
 }
 
@@ -38,6 +52,17 @@ RunContext::SchedulerMaker RunContext::cloning(const FunctorScheduler& prototype
 }
 
 ContainerPlan& RunContext::getPlan(const FunctorContainer& container)
+{
+    for (const RememberedPlan& remembered : rememberedPlans)
+        if (remembered.serial == serial_ && remembered.container == &container)
+            return *remembered.plan;
+    ContainerPlan& plan = findOrMakePlan(container);
+    rememberedPlans[nextRememberedPlan] = RememberedPlan{serial_, &container, &plan};
+    nextRememberedPlan = (nextRememberedPlan + 1) % RememberedPlanCount;
+    return plan;
+}
+
+ContainerPlan& RunContext::findOrMakePlan(const FunctorContainer& container)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     std::unique_ptr<ContainerPlan>& plan = plans_[&container];

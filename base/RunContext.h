@@ -31,7 +31,9 @@ public:
 
     Task& getTask() const { return task_; }
 
-    // The plan of `container`, made on the first request. Safe from any thread.
+    // The plan of `container`, made on the first request. Safe from any thread; each
+    // thread remembers the plans it asked for last, so that the passes of a loop do not
+    // all queue for the run's lock.
     ContainerPlan& getPlan(const FunctorContainer& container);
 
     // Lays the failure on `functor`, unless the same failure already lies on a functor
@@ -59,6 +61,10 @@ public:
     };
 
 private:
+    ContainerPlan& findOrMakePlan(const FunctorContainer& container);
+
+    // Tells this run from an earlier one at the same address.
+    const unsigned long serial_;
     Task& task_;
     SchedulerMaker makeScheduler_;
     mutable std::mutex mutex_;

@@ -10,7 +10,7 @@ namespace VRK {
 template <class T>
 class Singleton {
 public:
-    static std::shared_ptr<T> getInstance()
+    static const std::shared_ptr<T>& getInstance()
     {
         static const std::shared_ptr<T> instance = std::make_shared<T>();
         assert(instance != 0 && "instance != 0");

@@ -12,7 +12,7 @@ class TypeShim : public Type<DataT> {
 public:
     using Type<DataT>::Type;
 
-    static std::shared_ptr<TypeT> getInstance() { return Singleton<TypeT>::getInstance(); }
+    static const std::shared_ptr<TypeT>& getInstance() { return Singleton<TypeT>::getInstance(); }
 };
 
 } // namespace VRK

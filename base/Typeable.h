@@ -15,7 +15,9 @@ public:
     Typeable(const std::string& name, const std::string& description,
              const std::shared_ptr<BaseType>& type);
 
-    std::shared_ptr<BaseType> getType() const { return type_; }
+    // By reference: ports ask for their type at every pass, from many threads, and a
+    // copy would make them all count references on the same type.
+    const std::shared_ptr<BaseType>& getType() const { return type_; }
 
 private:
     std::shared_ptr<BaseType> type_;
