@@ -14,6 +14,7 @@
 
 #include <cassert>
 #include <cctype>
+#include <cstdlib>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -25,6 +26,41 @@ namespace {
 const Functor* peerOwner(const InputPort& port)
 {
     return port.isBound() ? port.getPeer()->getOwner() : nullptr;
+}
+
+std::string textAtPrecision(const DataWriter& writer, int precision)
+{
+    std::ostringstream text;
+    text.precision(precision);
+    writer.write(text, 0);
+    return text.str();
+}
+
+// Whether `text` is the whole of a number, which is then stored in `number`.
+bool parseNumber(const std::string& text, double& number)
+{
+    if (text.empty())
+        return false;
+    char* end = nullptr;
+    number = std::strtod(text.c_str(), &end);
+    return *end == '\0';
+}
+
+// Whether `text` stands for what `exact` stands for: the same text, or the same double.
+bool readsBackAs(const std::string& text, const std::string& exact)
+{
+    if (text == exact)
+        return true;
+    double number = 0;
+    double exactNumber = 0;
+    return parseNumber(text, number) && parseNumber(exact, exactNumber) && number == exactNumber;
+}
+
+// Whether `text` is a number written with an exponent, such as "1e+02".
+bool isScientific(const std::string& text)
+{
+    double number = 0;
+    return parseNumber(text, number) && text.find_first_of("eE") != std::string::npos;
 }
 
 } // namespace
@@ -150,10 +186,21 @@ std::string ScriptWritingPlan::getValueText(const InputPort& port)
     auto factory = FactoryFarmManager::Instance().getDataWriterFactory();
     std::unique_ptr<DataWriter> writer(
         factory->create(port.getType()->getName(), port.getDataEditor()));
-    std::ostringstream value;
-    value.precision(17);
-    writer->write(value, 0);
-    return value.str();
+    // Seventeen significant digits carry any double; fewer often carry it as well. The
+    // fewest would write 100 as "1e+02": a few more digits that spare the exponent are
+    // easier to read.
+    const std::string exact = textAtPrecision(*writer, 17);
+    std::string shortest;
+    for (int precision = 1; precision < 17; ++precision) {
+        const std::string text = textAtPrecision(*writer, precision);
+        if (!readsBackAs(text, exact))
+            continue;
+        if (!isScientific(text))
+            return text;
+        if (shortest.empty())
+            shortest = text;
+    }
+    return shortest.empty() ? exact : shortest;
 }
 
 } // namespace VRK

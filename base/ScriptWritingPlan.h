@@ -45,7 +45,10 @@ public:
     std::string getAlias(const Functor& functor) const;
     // "alias.port" of a written binding.
     std::string getReference(const InputPort& port) const;
-    // A typed-in value as the writer of its type prints it; reals keep every digit.
+    // A typed-in value as the writer of its type prints it. A number is written with the
+    // fewest digits that still read back to the same double (0.1 rather than
+    // 0.10000000000000001, all seventeen where it takes them), without an exponent
+    // where seventeen digits allow it (100 rather than 1e+02).
     static std::string getValueText(const InputPort& port);
 
     // Every functor in `container`, depth first, in script order.

@@ -61,7 +61,7 @@ TEST(DefaultScriptWriter, KeepsRealsExactAndOnlyTheValuesTheModellerSet)
     auto script = readText("TestRealSource constant = 0.30000000000000004; TestSink value = 0.1;");
     const std::string written = writeText(*script);
     EXPECT_EQ(written, "TestRealSource constant = 0.30000000000000004;\n"
-                       "TestSink value = 0.10000000000000001;\n");
+                       "TestSink value = 0.1;\n");
     EXPECT_EQ(written.find("label"), std::string::npos);
 
     std::ostringstream everything;

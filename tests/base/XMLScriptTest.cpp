@@ -93,7 +93,7 @@ TEST(XMLScriptWriter, WritesTheDocumentedShape)
         "        <input port=\"constant\">42</input>\n"
         "    </functor>\n"
         "    <functor name=\"TestRealSource\">\n"
-        "        <input port=\"constant\">0.10000000000000001</input>\n"
+        "        <input port=\"constant\">0.1</input>\n"
         "    </functor>\n"
         "</script>\n";
     EXPECT_EQ(writeXML(*script), expected);

@@ -1,13 +1,18 @@
 #include "base/DataException.h"
 #include "base/DefaultScriptReader.h"
 #include "base/DefaultScriptWriter.h"
+#include "base/Functor.h"
+#include "base/InputPort.h"
 #include "base/NonIntrusiveScriptVerifier.h"
 #include "base/ParseError.h"
 #include "base/Script.h"
+#include "plugins/prim/DoubleEditor.h"
 #include "tests/support/PrimRegistration.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <iomanip>
 #include <sstream>
 
 namespace {
@@ -38,7 +43,7 @@ TEST(TextScript, WritesEveryPrimitiveValueInItsCanonicalForm)
                       "Name constant = \"n\"; Path constant = \"a/b.txt\";"
                       "IntList constant = [3, 1, 3]; LogTag constant = .trace;"),
               "Bool constant = .yes;\n"
-              "Double constant = 0.10000000000000001;\n"
+              "Double constant = 0.1;\n"
               "Int constant = -7;\n"
               "NonNegativeInt constant = 0;\n"
               "PositiveInt constant = 3;\n"
@@ -86,6 +91,41 @@ TEST(TextScript, ReadingWhatWasWrittenChangesNothing)
         const std::string once = rewrite(text);
         EXPECT_EQ(rewrite(once), once) << text;
         EXPECT_NO_THROW(VRK::NonIntrusiveScriptVerifier().verify(readScript(once).get())) << once;
+    }
+}
+
+TEST(TextScript, RealsAreWrittenShortWhereTheyCanAndReadBackExactly)
+{
+    struct Real {
+        double value;
+        const char* text;
+    };
+    const Real reals[] = {
+        {0.1, "0.1"},
+        {1.0 / 3, "0.3333333333333333"},
+        {1e-300, "1e-300"},
+        {123456789.123, "123456789.123"},
+        {-0.0, "-0"},
+        {0.1 + 0.2, "0.30000000000000004"},
+        {1e300, "1e+300"},
+        {100.0, "100"},
+        {250000.0, "250000"},
+        {2.5e-7, "2.5e-07"},
+    };
+    auto script = readScript("Double constant = 0;");
+    VRK::InputPort& port = *script->getFunctor(0)->getInputPort("constant");
+    auto& editor = dynamic_cast<Prim::DoubleEditor&>(*port.getDataEditor());
+    for (const Real& real : reals) {
+        editor.setDouble(real.value);
+        const std::string written = writeScript(*script);
+        EXPECT_EQ(written, "Double constant = " + std::string(real.text) + ";\n");
+        auto back = readScript(written);
+        const double read = dynamic_cast<Prim::DoubleEditor&>(
+                                *back->getFunctor(0)->getInputPort("constant")->getDataEditor())
+                                .getDouble();
+        // Bit for bit, so that -0 is not taken for 0.
+        EXPECT_EQ(std::memcmp(&read, &real.value, sizeof read), 0)
+            << real.text << " read back as " << std::setprecision(17) << read;
     }
 }
 
