@@ -1,7 +1,7 @@
 #ifndef VRK_BASE_DEFAULTSCRIPTREADER_H
 #define VRK_BASE_DEFAULTSCRIPTREADER_H
 
-#include "base/ScriptReader.h"
+#include "base/BuilderScriptReader.h"
 
 #include <set>
 #include <string>
@@ -9,8 +9,9 @@
 namespace VRK {
 
 // Reads text scripts (".vrk"). Values are read by the readers registered for the
-// script scanner, so that every error carries file, line and column.
-class DefaultScriptReader : public ScriptReader {
+// script scanner, so that every error carries file, line and column. Reading only the
+// properties stops at the head of the text.
+class DefaultScriptReader : public BuilderScriptReader {
 public:
     // The scanner under which the readers of values in text scripts are registered.
     static const std::string ScannerName;
@@ -20,13 +21,8 @@ public:
     ~DefaultScriptReader() override;
 
 protected:
-    void readImpl(Script* script, std::istream& in, const std::string& filename) override;
-    // Only the script's own properties, from the head of the text; creates no functor.
-    void readPropertiesImpl(Script* script, std::istream& in, const std::string& filename) override;
-
-private:
-    static void readText(Script* script, std::istream& in, const std::string& filename,
-                         bool propertiesOnly);
+    void parse(ScriptBuilder& builder, const std::string& text, const std::string& filename,
+               bool propertiesOnly) override;
 };
 
 } // namespace VRK

@@ -1,7 +1,7 @@
 #ifndef VRK_BASE_XMLSCRIPTREADER_H
 #define VRK_BASE_XMLSCRIPTREADER_H
 
-#include "base/ScriptReader.h"
+#include "base/BuilderScriptReader.h"
 
 #include <set>
 #include <string>
@@ -12,7 +12,7 @@ namespace VRK {
 // readers registered for the plain scanner; errors name the line and column of the
 // element (or of the value text) they are about. The document is parsed as it stands:
 // no document type is processed and no external entity is fetched.
-class XMLScriptReader : public ScriptReader {
+class XMLScriptReader : public BuilderScriptReader {
 public:
     // The scanner under which the readers of values in XML scripts are registered.
     static const std::string ScannerName;
@@ -22,13 +22,8 @@ public:
     ~XMLScriptReader() override;
 
 protected:
-    void readImpl(Script* script, std::istream& in, const std::string& filename) override;
-    // Only the script's own properties; creates no functor.
-    void readPropertiesImpl(Script* script, std::istream& in, const std::string& filename) override;
-
-private:
-    static void readText(Script* script, std::istream& in, const std::string& filename,
-                         bool propertiesOnly);
+    void parse(ScriptBuilder& builder, const std::string& text, const std::string& filename,
+               bool propertiesOnly) override;
 };
 
 } // namespace VRK
