@@ -2,6 +2,7 @@
 
 #include "base/Functor.h"
 #include "base/GraphvizScriptWriter.h"
+#include "tests/support/ScriptText.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -32,9 +33,7 @@ public:
 
 std::string writeDot(VRK::Script& script)
 {
-    std::ostringstream out;
-    VRK::GraphvizScriptWriter().write(&script, out, "test.dot");
-    return out.str();
+    return VRK::Testing::writeScriptText<VRK::GraphvizScriptWriter>(script, "test.dot");
 }
 
 size_t count(const std::string& text, const std::regex& pattern)

@@ -16,6 +16,7 @@
 #include "base/StrongInputPort.h"
 #include "base/TransducedAssertiveParser.h"
 #include "base/TypeShim.h"
+#include "tests/support/ScriptText.h"
 
 #include <mutex>
 #include <sstream>
@@ -332,17 +333,12 @@ void registerAll()
 std::shared_ptr<VRK::Script> readText(const std::string& text)
 {
     registerAll();
-    auto script = std::make_shared<VRK::Script>();
-    std::istringstream in(text);
-    VRK::DefaultScriptReader().read(script.get(), in, "test.vrk");
-    return script;
+    return VRK::Testing::readScriptText<VRK::DefaultScriptReader>(text, "test.vrk");
 }
 
 std::string writeText(VRK::Script& script)
 {
-    std::ostringstream out;
-    VRK::DefaultScriptWriter().write(&script, out, "test.vrk");
-    return out.str();
+    return VRK::Testing::writeScriptText<VRK::DefaultScriptWriter>(script, "test.vrk");
 }
 
 } // namespace ScriptTestKit

@@ -6,6 +6,7 @@
 #include "base/Propertiable.h"
 #include "base/XMLScriptReader.h"
 #include "base/XMLScriptWriter.h"
+#include "tests/support/ScriptText.h"
 
 #include <gtest/gtest.h>
 
@@ -19,17 +20,12 @@ using ScriptTestKit::writeText;
 std::shared_ptr<VRK::Script> readXML(const std::string& text)
 {
     ScriptTestKit::registerAll();
-    auto script = std::make_shared<VRK::Script>();
-    std::istringstream in(text);
-    VRK::XMLScriptReader().read(script.get(), in, "test.xml");
-    return script;
+    return VRK::Testing::readScriptText<VRK::XMLScriptReader>(text, "test.xml");
 }
 
 std::string writeXML(VRK::Script& script)
 {
-    std::ostringstream out;
-    VRK::XMLScriptWriter().write(&script, out, "test.xml");
-    return out.str();
+    return VRK::Testing::writeScriptText<VRK::XMLScriptWriter>(script, "test.xml");
 }
 
 // The error that reading `text` raises, or a failure when it reads.

@@ -8,29 +8,24 @@
 #include "base/Script.h"
 #include "plugins/prim/DoubleEditor.h"
 #include "tests/support/PrimRegistration.h"
+#include "tests/support/ScriptText.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <iomanip>
-#include <sstream>
 
 namespace {
 
 std::shared_ptr<VRK::Script> readScript(const std::string& text)
 {
     VRK::Testing::registerPrimOnce();
-    auto script = std::make_shared<VRK::Script>();
-    std::istringstream in(text);
-    VRK::DefaultScriptReader().read(script.get(), in, "model.vrk");
-    return script;
+    return VRK::Testing::readScriptText<VRK::DefaultScriptReader>(text, "model.vrk");
 }
 
 std::string writeScript(VRK::Script& script)
 {
-    std::ostringstream out;
-    VRK::DefaultScriptWriter().write(&script, out, "model.vrk");
-    return out.str();
+    return VRK::Testing::writeScriptText<VRK::DefaultScriptWriter>(script, "model.vrk");
 }
 
 std::string rewrite(const std::string& text) { return writeScript(*readScript(text)); }
