@@ -2,10 +2,8 @@
 
 #include "base/BaseType.h"
 #include "base/ContainerFunctor.h"
-#include "base/DataWriter.h"
 #include "base/FactoryFarmManager.h"
-
-#include <sstream>
+#include "base/ScriptWritingPlan.h"
 
 namespace {
 
@@ -20,11 +18,7 @@ std::string defaultValue(const VRK::InputPort& port)
     auto writers = VRK::FactoryFarmManager::Instance().getDataWriterFactory();
     if (!port.hasDataEditor() || !port.getType() || !writers->isRegistered(port.getType()->getName()))
         return std::string();
-    std::unique_ptr<VRK::DataWriter> writer(writers->create(port.getType()->getName(), port.getDataEditor()));
-    std::ostringstream value;
-    value.precision(17);
-    writer->write(value, 0);
-    return value.str();
+    return VRK::ScriptWritingPlan::getValueText(port);
 }
 
 void describeInput(const VRK::Functor& functor, const VRK::InputPort& port, const char* direction,
