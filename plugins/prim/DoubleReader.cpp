@@ -1,26 +1,16 @@
 #include "plugins/prim/DoubleReader.h"
 
-#include "base/TransducedAssertiveParser.h"
 #include "plugins/prim/DoubleEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/PrimReaderUtils.h"
 
 namespace Prim {
 
 template <class ScannerT>
 DoubleReader<ScannerT>::DoubleReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a double precision real.")
+    : NumberReader<ScannerT, double>(
+        dataEditor, "Expecting a double precision real.",
+        PrimReaderUtils::setterOf(dataEditor, &DoubleEditor::setDouble))
 {
-    using namespace boost::spirit::classic;
-    DoubleEditor* editor = &PrimEditorUtils::editorOf<DoubleEditor>(dataEditor);
-    // real_p knows no "inf" or "nan": such text is not a real here.
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        real_p[([editor](double value) { editor->setDouble(value); })], message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t DoubleReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
 }
 
 template class DoubleReader<VRK::ScriptScanner>;

@@ -1,26 +1,25 @@
 #include "plugins/prim/FilenameReader.h"
 
-#include "base/TransducedAssertiveParser.h"
 #include "plugins/prim/FilenameEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
 #include "plugins/prim/PrimReaderUtils.h"
+
+#include <utility>
 
 namespace Prim {
 
-template <class ScannerT>
-FilenameReader<ScannerT>::FilenameReader(VRK::DataEditor* dataEditor, const std::string& item)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting " + item + " enclosed by '\"'.")
+namespace {
+std::function<void(std::string)> recorderOf(VRK::DataEditor* dataEditor)
 {
-    FilenameEditor* editor = &PrimEditorUtils::editorOf<FilenameEditor>(dataEditor);
-    auto setFilename = [this, editor](auto, auto) { editor->setFilename(text_, false); };
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        PrimReaderUtils::quotedText(text_)[setFilename], message_);
+    FilenameEditor* editor = &PrimReaderUtils::editorOf<FilenameEditor>(dataEditor);
+    return [editor](std::string text) { editor->setFilename(std::move(text), false); };
 }
+} // namespace
 
 template <class ScannerT>
-std::ptrdiff_t FilenameReader<ScannerT>::read(const ScannerT& scan) const
+FilenameReader<ScannerT>::FilenameReader(VRK::DataEditor* dataEditor, const std::string& item)
+    : QuotedTextReader<ScannerT>(dataEditor, item, QuotedTextReader<ScannerT>::Escapes::none,
+                                 recorderOf(dataEditor))
 {
-    return grammar_.parse(scan).length();
 }
 
 template class FilenameReader<VRK::ScriptScanner>;

@@ -1,29 +1,15 @@
 #ifndef PRIM_NONNEGATIVEINTREADER_H
 #define PRIM_NONNEGATIVEINTREADER_H
 
-#include "base/DataReader.h"
-#include "base/ScannerTypes.h"
-
-#include <boost/spirit/include/classic_core.hpp>
-
-#include <string>
+#include "plugins/prim/NumberReader.h"
 
 namespace Prim {
 
 // Reads a decimal integer; the editor refuses negative ones.
 template <class ScannerT>
-class NonNegativeIntReader : public VRK::DataReader<ScannerT> {
+class NonNegativeIntReader : public NumberReader<ScannerT, int> {
 public:
     explicit NonNegativeIntReader(VRK::DataEditor* dataEditor);
-    // The grammar's actions point into this reader.
-    NonNegativeIntReader(const NonNegativeIntReader&) = delete;
-    NonNegativeIntReader& operator=(const NonNegativeIntReader&) = delete;
-
-    std::ptrdiff_t read(const ScannerT& scan) const override;
-
-private:
-    const std::string message_;
-    boost::spirit::classic::rule<ScannerT> grammar_;
 };
 
 extern template class NonNegativeIntReader<VRK::ScriptScanner>;

@@ -1,6 +1,7 @@
 #include "plugins/prim/PercentReader.h"
 
 #include "base/TransducedAssertiveParser.h"
+#include "plugins/prim/ExactRealParser.h"
 #include "plugins/prim/PercentEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
@@ -25,7 +26,7 @@ PercentReader<ScannerT>::PercentReader(VRK::DataEditor* dataEditor)
     };
     auto markPercentage = [this](char) { percentage_ = true; };
     grammar_ = VRK::Spirit::transduced_assertive_p(
-        (real_p[readNumber] >> !ch_p('%')[markPercentage])[setPercent], message_);
+        (Spirit::exact_real_p[readNumber] >> !ch_p('%')[markPercentage])[setPercent], message_);
 }
 
 template <class ScannerT>

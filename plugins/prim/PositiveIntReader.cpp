@@ -1,26 +1,17 @@
 #include "plugins/prim/PositiveIntReader.h"
 
-#include "base/TransducedAssertiveParser.h"
 #include "plugins/prim/PositiveIntEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/PrimReaderUtils.h"
 
 namespace Prim {
 
+// The sign is the editor's to check, so that "0" gets its message, not ours.
 template <class ScannerT>
 PositiveIntReader<ScannerT>::PositiveIntReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a positive integer.")
+    : NumberReader<ScannerT, int>(
+        dataEditor, "Expecting a positive integer.",
+        PrimReaderUtils::setterOf(dataEditor, &PositiveIntEditor::setPositiveInt))
 {
-    using namespace boost::spirit::classic;
-    PositiveIntEditor* editor = &PrimEditorUtils::editorOf<PositiveIntEditor>(dataEditor);
-    // The sign is the editor's to check, so that "0" gets its message, not ours.
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        int_p[([editor](int value) { editor->setPositiveInt(value); })], message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t PositiveIntReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
 }
 
 template class PositiveIntReader<VRK::ScriptScanner>;

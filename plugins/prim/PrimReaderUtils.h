@@ -1,23 +1,34 @@
 #ifndef PRIM_PRIMREADERUTILS_H
 #define PRIM_PRIMREADERUTILS_H
 
-#include <boost/spirit/include/classic_actor.hpp>
-#include <boost/spirit/include/classic_core.hpp>
+#include "base/DataEditor.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
-#include <string>
+#include <cassert>
+#include <functional>
+#include <utility>
 
 namespace Prim {
 
-// Grammar pieces that several value readers share.
+// What the value readers share in reaching their editor.
 class PrimReaderUtils {
 public:
-    // A double quote, any characters other than a double quote, a double quote, read as
-    // one lexeme; the characters between the quotes are assigned to `text`. Nothing is
-    // an escape here: a backslash is an ordinary character.
-    static auto quotedText(std::string& text)
+    // The editor of class EditorT that a reader is built on: a missing editor and one of
+    // another class are both programming errors.
+    template <class EditorT>
+    static EditorT& editorOf(VRK::DataEditor* dataEditor)
     {
-        using namespace boost::spirit::classic;
-        return lexeme_d[ch_p('"') >> (*(anychar_p - '"'))[assign_a(text)] >> '"'];
+        assert(dataEditor != 0 && "dataEditor != 0");
+        return PrimEditorUtils::editorOf<EditorT>(dataEditor);
+    }
+
+    // A call of `set` on that editor, for the value a reader has read.
+    template <class EditorT, class ValueT>
+    static std::function<void(ValueT)> setterOf(VRK::DataEditor* dataEditor,
+                                                void (EditorT::*set)(ValueT))
+    {
+        EditorT* editor = &editorOf<EditorT>(dataEditor);
+        return [editor, set](ValueT value) { (editor->*set)(std::move(value)); };
     }
 };
 

@@ -1,0 +1,53 @@
+#ifndef PRIM_QUOTEDTEXTREADER_H
+#define PRIM_QUOTEDTEXTREADER_H
+
+#include "base/DataReader.h"
+#include "base/ScannerTypes.h"
+
+#include <boost/spirit/include/classic_core.hpp>
+
+#include <functional>
+#include <string>
+
+namespace Prim {
+
+// Reads a text between double quotes, as one lexeme, and hands it to one setter of the
+// editor. The readers of the textual types differ only in what they call the text,
+// whether a backslash protects the character after it, and their setter.
+template <class ScannerT>
+class QuotedTextReader : public VRK::DataReader<ScannerT> {
+public:
+    // The grammar's actions point into this reader.
+    QuotedTextReader(const QuotedTextReader&) = delete;
+    QuotedTextReader& operator=(const QuotedTextReader&) = delete;
+
+    std::ptrdiff_t read(const ScannerT& scan) const override;
+
+protected:
+    enum class Escapes {
+        // A backslash is an ordinary character, such as a path separator.
+        none,
+        // A backslash protects the character after it, so that a protected quote does
+        // not end the text. The text is handed over as written but for backslash-quote,
+        // which is turned back into a quote.
+        backslash
+    };
+
+    // `item` names the text in the message of a text that does not read
+    // ("Expecting " + item + " enclosed by '\"'.").
+    QuotedTextReader(VRK::DataEditor* dataEditor, const std::string& item, Escapes escapes,
+                     std::function<void(std::string)> set);
+
+private:
+    // The text between the quotes, as written.
+    std::string text_;
+    std::function<void(std::string)> set_;
+    boost::spirit::classic::rule<ScannerT> grammar_;
+};
+
+extern template class QuotedTextReader<VRK::ScriptScanner>;
+extern template class QuotedTextReader<VRK::PlainScanner>;
+
+} // namespace Prim
+
+#endif
