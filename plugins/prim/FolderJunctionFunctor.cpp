@@ -1,34 +1,23 @@
 #include "plugins/prim/FolderJunctionFunctor.h"
 
-#include "base/StrongInputPort.h"
 #include "plugins/prim/FolderType.h"
 #include "plugins/prim/JunctionUtils.h"
 
 namespace Prim {
 
 namespace {
-const char* const FirstInput = "possibleFolder1";
-const char* const SecondInput = "possibleFolder2";
-const char* const Output = "folder";
+const JunctionUtils::Ports ports = {"possibleFolder1", "possibleFolder2", "folder",
+                                    "Folder output from an execution pipeline.", "Folder picked."};
 } // namespace
 
 FolderJunction::FolderJunction()
     : VRK::Functor("FolderJunction", "Pick one folder from two execution pipelines.", nullptr)
 {
-    const auto type = FolderType::getInstance();
-    addInputPort(
-        VRK::StrongInputPort(FirstInput, "Folder output from an execution pipeline.", type));
-    addInputPort(
-        VRK::StrongInputPort(SecondInput, "Folder output from an execution pipeline.", type));
-    addOutputPort(Output, "Folder picked.", type);
-    setFlag(4, true);
+    JunctionUtils::addPorts(*this, ports, FolderType::getInstance());
 }
 
 FolderJunction::~FolderJunction() = default;
 
-void FolderJunction::runImpl()
-{
-    JunctionUtils::forward<FolderData>(*this, FirstInput, SecondInput, Output);
-}
+void FolderJunction::runImpl() { JunctionUtils::forward<FolderData>(*this, ports); }
 
 } // namespace Prim

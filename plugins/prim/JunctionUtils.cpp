@@ -1,10 +1,20 @@
 #include "plugins/prim/JunctionUtils.h"
 
 #include "base/Logger.h"
+#include "base/StrongInputPort.h"
 
 #include <sstream>
 
 namespace Prim {
+
+void JunctionUtils::addPorts(VRK::Functor& junction, const Ports& ports,
+                             const std::shared_ptr<VRK::BaseType>& type)
+{
+    junction.addInputPort(VRK::StrongInputPort(ports.first, ports.inputDescription, type));
+    junction.addInputPort(VRK::StrongInputPort(ports.second, ports.inputDescription, type));
+    junction.addOutputPort(ports.output, ports.outputDescription, type);
+    junction.setFlag(4, true);
+}
 
 void JunctionUtils::logForwarded(const VRK::Functor& junction, const char* which)
 {

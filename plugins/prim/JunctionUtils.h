@@ -3,22 +3,37 @@
 
 #include "base/Functor.h"
 
+#include <memory>
 #include <string>
 
 namespace Prim {
 
-// The run shared by the junctions: of two alternative pipelines, the one that produced
-// data is forwarded; the first wins when both did, and nothing happens when neither did
-// (a consumer of the output then reports the missing data).
+// What the junctions share: two alternative inputs and one output of one type. Of two
+// alternative pipelines, the one that produced data is forwarded; the first wins when
+// both did, and nothing happens when neither did (a consumer of the output then
+// reports the missing data).
 class JunctionUtils {
 public:
+    // The names and descriptions of a junction's ports.
+    struct Ports {
+        const char* first;
+        const char* second;
+        const char* output;
+        const char* inputDescription;
+        const char* outputDescription;
+    };
+
+    // Gives `junction` its ports, all of `type`, and sets the functor flag 4 that every
+    // junction carries.
+    static void addPorts(VRK::Functor& junction, const Ports& ports,
+                         const std::shared_ptr<VRK::BaseType>& type);
+
     template <class DataT>
-    static void forward(VRK::Functor& junction, const std::string& first, const std::string& second,
-                        const std::string& output)
+    static void forward(VRK::Functor& junction, const Ports& ports)
     {
-        if (forwardIfSet<DataT>(junction, first, output))
+        if (forwardIfSet<DataT>(junction, ports.first, ports.output))
             logForwarded(junction, "first");
-        else if (forwardIfSet<DataT>(junction, second, output))
+        else if (forwardIfSet<DataT>(junction, ports.second, ports.output))
             logForwarded(junction, "second");
     }
 
