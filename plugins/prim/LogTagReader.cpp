@@ -1,5 +1,6 @@
 #include "plugins/prim/LogTagReader.h"
 
+#include "base/LogTagInfo.h"
 #include "base/TransducedAssertiveParser.h"
 #include "plugins/prim/LogTagEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
@@ -12,17 +13,16 @@ LogTagReader<ScannerT>::LogTagReader(VRK::DataEditor* dataEditor)
 {
     using namespace boost::spirit::classic;
     LogTagEditor* editor = &PrimEditorUtils::editorOf<LogTagEditor>(dataEditor);
-    auto keyword = [editor](const char* text, VRK::LogTag tag) {
-        return str_p(text)[([editor, tag](auto, auto) { editor->setLogTag(tag); })];
+    auto keyword = [editor](VRK::LogTag tag) {
+        auto setTag = [editor, tag](auto, auto) { editor->setLogTag(tag); };
+        return str_p(VRK::LogTagInfo::getName(tag))[setTag];
     };
     // Keywords are plain literals tried in this order; ".info" before ".info2" and
     // ".debug" before ".debug2" is how scripts have always been read.
     grammar_ = VRK::Spirit::transduced_assertive_p(
-        keyword(".unconditional", VRK::unconditional) | keyword(".result", VRK::result)
-            | keyword(".error", VRK::error) | keyword(".warning", VRK::warning)
-            | keyword(".info", VRK::info) | keyword(".info2", VRK::info2)
-            | keyword(".debug", VRK::debug) | keyword(".debug2", VRK::debug2)
-            | keyword(".trace", VRK::trace),
+        keyword(VRK::unconditional) | keyword(VRK::result) | keyword(VRK::error)
+            | keyword(VRK::warning) | keyword(VRK::info) | keyword(VRK::info2)
+            | keyword(VRK::debug) | keyword(VRK::debug2) | keyword(VRK::trace),
         message_);
 }
 
