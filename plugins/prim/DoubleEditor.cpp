@@ -1,12 +1,10 @@
 #include "plugins/prim/DoubleEditor.h"
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/DoubleType.h"
+#include "plugins/prim/EditorCheckUtils.h"
 
 #include <cmath>
-#include <sstream>
 
 namespace Prim {
 
@@ -28,12 +26,8 @@ void DoubleEditor::unpackData(const VRK::BaseData& data)
 
 void DoubleEditor::setDouble(double value)
 {
-    if (!std::isfinite(value)) {
-        std::ostringstream message;
-        message << "The real value " << value << " is not valid.";
-        VRK::ExceptionUtils::raise<VRK::IllegalDataException>(message.str());
-    }
-    value_ = value;
+    value_ = EditorCheckUtils::checked(value, std::isfinite(value), "The real value ",
+                                       " is not valid.");
 }
 
 } // namespace Prim

@@ -1,11 +1,8 @@
 #include "plugins/prim/PositiveIntEditor.h"
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
+#include "plugins/prim/EditorCheckUtils.h"
 #include "plugins/prim/PositiveIntType.h"
-
-#include <sstream>
 
 namespace Prim {
 
@@ -27,12 +24,8 @@ void PositiveIntEditor::unpackData(const VRK::BaseData& data)
 
 void PositiveIntEditor::setPositiveInt(int value)
 {
-    if (value <= 0) {
-        std::ostringstream message;
-        message << "The positive integer value \"" << value << "\" is not valid.";
-        VRK::ExceptionUtils::raise<VRK::IllegalDataException>(message.str());
-    }
-    value_ = value;
+    value_ = EditorCheckUtils::checked(value, value > 0, "The positive integer value \"",
+                                       "\" is not valid.");
 }
 
 } // namespace Prim
