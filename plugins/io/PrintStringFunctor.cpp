@@ -1,25 +1,22 @@
 #include "plugins/io/PrintStringFunctor.h"
 
-#include "base/Logger.h"
+#include "plugins/io/PrintUtils.h"
 #include "plugins/prim/StringType.h"
 
 namespace Io {
 
 PrintString::PrintString() : Functor("PrintString", "Write a string to the log.", nullptr)
 {
-    addInputPort("string", "String to write.", Prim::StringType::getInstance(), false);
-    addOptionalInputPort("label", "Text written before the string.",
-                         Prim::StringType::getInstance(), false, 0);
+    PrintUtils::addPorts(*this, "string", "String to write.", Prim::StringType::getInstance(),
+                         "Text written before the string.");
 }
 
 PrintString::~PrintString() = default;
 
 void PrintString::runImpl()
 {
-    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-    if (logger->isLogging(VRK::result))
-        logger->log(VRK::result, getInputPortValue<Prim::StringData>("label")
-                                     + getInputPortValue<Prim::StringData>("string"));
+    PrintUtils::logLabelled(*this,
+                            [this] { return getInputPortValue<Prim::StringData>("string"); });
 }
 
 } // namespace Io

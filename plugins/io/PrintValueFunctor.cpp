@@ -1,8 +1,7 @@
 #include "plugins/io/PrintValueFunctor.h"
 
-#include "base/Logger.h"
+#include "plugins/io/PrintUtils.h"
 #include "plugins/prim/DoubleType.h"
-#include "plugins/prim/StringType.h"
 
 #include <cassert>
 #include <charconv>
@@ -11,19 +10,16 @@ namespace Io {
 
 PrintValue::PrintValue() : Functor("PrintValue", "Write a value to the log.", nullptr)
 {
-    addInputPort("value", "Value to write.", Prim::DoubleType::getInstance(), false);
-    addOptionalInputPort("label", "Text written before the value.", Prim::StringType::getInstance(),
-                         false, 0);
+    PrintUtils::addPorts(*this, "value", "Value to write.", Prim::DoubleType::getInstance(),
+                         "Text written before the value.");
 }
 
 PrintValue::~PrintValue() = default;
 
 void PrintValue::runImpl()
 {
-    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-    if (logger->isLogging(VRK::result))
-        logger->log(VRK::result, getInputPortValue<Prim::StringData>("label")
-                                     + format(getInputPortValue<Prim::DoubleData>("value")));
+    PrintUtils::logLabelled(
+        *this, [this] { return format(getInputPortValue<Prim::DoubleData>("value")); });
 }
 
 std::string PrintValue::format(double value)
