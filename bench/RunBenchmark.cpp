@@ -15,12 +15,12 @@
 #include "base/Script.h"
 #include "base/SequentialFunctorScheduler.h"
 #include "base/Task.h"
+#include "bench/RecordingReporter.h"
 
 #include <benchmark/benchmark.h>
 
 #include <iomanip>
 #include <iostream>
-#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -142,27 +142,11 @@ BENCHMARK(wideSequential)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(wideParallel)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(wideAuto)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// Shows the runs as usual and keeps each one's real time per iteration.
-class RecordingReporter : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                times[run.benchmark_name()] = run.GetAdjustedRealTime();
-    }
-    std::map<std::string, double> times;
-};
-
-double ratio(const RecordingReporter& reporter, const std::string& measured,
+// The ratio of two benchmarks of this program, all of which are timed in real time.
+double ratio(const Bench::RecordingReporter& reporter, const std::string& measured,
              const std::string& baseline)
 {
-    auto time = reporter.times.find(measured + "/real_time");
-    auto base = reporter.times.find(baseline + "/real_time");
-    if (time == reporter.times.end() || base == reporter.times.end() || base->second <= 0)
-        return 0;
-    return time->second / base->second;
+    return reporter.ratio(measured + "/real_time", baseline + "/real_time");
 }
 
 } // namespace
@@ -173,7 +157,7 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     Scripts::get();
-    RecordingReporter reporter;
+    Bench::RecordingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     const unsigned int processors = VRK::ProcessorManager::Instance().getEffectiveProcessorCount();
     std::cout << std::fixed << std::setprecision(1) << "\nRatios measured in this run:\n"

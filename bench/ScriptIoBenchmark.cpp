@@ -12,13 +12,13 @@
 #include "base/Script.h"
 #include "base/XMLScriptReader.h"
 #include "base/XMLScriptWriter.h"
+#include "bench/RecordingReporter.h"
 
 #include <benchmark/benchmark.h>
 #include <pugixml.hpp>
 
 #include <iomanip>
 #include <iostream>
-#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -135,29 +135,15 @@ BENCHMARK(writeXML)->Unit(benchmark::kMillisecond);
 BENCHMARK(parseRawXML)->Unit(benchmark::kMillisecond);
 BENCHMARK(saveRawXML)->Unit(benchmark::kMillisecond);
 
-// Shows the runs as usual and keeps each one's real time per iteration.
-class RecordingReporter : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                times[run.benchmark_name()] = run.GetAdjustedRealTime();
-    }
-    std::map<std::string, double> times;
-};
-
-void printRatio(const RecordingReporter& reporter, const std::string& measured,
+void printRatio(const Bench::RecordingReporter& reporter, const std::string& measured,
                 const std::string& baseline)
 {
-    auto time = reporter.times.find(measured);
-    auto base = reporter.times.find(baseline);
-    if (time == reporter.times.end() || base == reporter.times.end() || base->second <= 0)
+    const double ratio = reporter.ratio(measured, baseline);
+    if (ratio <= 0)
         return;
     std::cout << std::left << std::setw(12) << measured << " / " << std::setw(12) << baseline
-              << std::right << std::fixed << std::setprecision(1) << std::setw(8)
-              << time->second / base->second << "\n";
+              << std::right << std::fixed << std::setprecision(1) << std::setw(8) << ratio
+              << "\n";
 }
 
 } // namespace
@@ -170,7 +156,7 @@ int main(int argc, char** argv)
     Model::get();
     std::cout << "Script of 10,000 functors: " << Model::get().text.size() << " bytes as text, "
               << Model::get().xml.size() << " bytes as XML\n";
-    RecordingReporter reporter;
+    Bench::RecordingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     std::cout << "\nRatios measured in this run (times the baseline):\n";
     printRatio(reporter, "readText", "parseRawXML");
