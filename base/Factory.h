@@ -47,12 +47,20 @@ public:
     }
 
     // The registered key behind a key or an alias.
-    Key resolve(const Key& keyOrAlias) const { return entry(keyOrAlias).key; }
+    Key resolve(const Key& keyOrAlias) const
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return entry(keyOrAlias).key;
+    }
 
     template <class... Args>
     Product create(const Key& keyOrAlias, Args&&... args) const
     {
-        Creator creator = entry(keyOrAlias).creator;
+        Creator creator;
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            creator = entry(keyOrAlias).creator;
+        }
         return creator(std::forward<Args>(args)...);
     }
 
@@ -63,9 +71,10 @@ public:
     }
 
 private:
-    Entry entry(const Key& keyOrAlias) const
+    // Under the lock. Products are created once per functor and per value read, so only
+    // the part asked for is copied out, not the whole entry with its aliases.
+    const Entry& entry(const Key& keyOrAlias) const
     {
-        std::lock_guard<std::mutex> lock(mutex_);
         auto found = index_.find(keyOrAlias);
         if (found == index_.end()) {
             std::ostringstream message;
