@@ -15,9 +15,10 @@ namespace VRK {
 
 namespace {
 
+// Copied from the characters beneath, without stepping the positions along.
 std::string textOf(const ScriptIterator& first, const ScriptIterator& last)
 {
-    return std::string(first, last);
+    return std::string(first.base(), last.base());
 }
 
 bool continuesWord(char c)
@@ -37,7 +38,8 @@ ScriptPosition DefaultScriptActions::positionOf(const ScriptIterator& where)
 
 void DefaultScriptActions::raise(const ScriptIterator& where, const std::string& message) const
 {
-    ParseError error(message, where.get_position());
+    const ScriptFilePosition& position = where.get_position();
+    ParseError error(message, ParseError::Position(position.file, position.line, position.column));
     ExceptionUtils::logThrow(error);
     throw error;
 }

@@ -2,6 +2,7 @@
 #define VRK_BASE_SCANNERTYPES_H
 
 #include "base/DefaultSkipGrammar.h"
+#include "base/ScriptFileName.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 #include <boost/spirit/include/classic_position_iterator.hpp>
@@ -18,8 +19,8 @@ namespace VRK {
 using PlainScanner = boost::spirit::classic::phrase_scanner_t;
 
 // Script: text script files, with file positions for diagnostics; skips white space
-// and comments.
-using ScriptFilePosition = boost::spirit::classic::file_position_base<std::string>;
+// and comments. Positions point at the file name the scanner keeps.
+using ScriptFilePosition = boost::spirit::classic::file_position_base<ScriptFileName>;
 using ScriptIterator =
     boost::spirit::classic::position_iterator<std::vector<char>::const_iterator, ScriptFilePosition>;
 using ScriptScanner = boost::spirit::classic::scanner<

@@ -5,14 +5,16 @@ namespace VRK {
 namespace {
 ScriptIterator startOf(const std::vector<char>& characters, const std::string& filename)
 {
-    ScriptIterator first(characters.begin(), characters.end(), ScriptFilePosition(filename));
+    ScriptIterator first(characters.begin(), characters.end(),
+                         ScriptFilePosition(filename.c_str()));
     first.set_tabchars(1);
     return first;
 }
 } // namespace
 
 ScriptTextScanner::ScriptTextScanner(const std::string& text, const std::string& filename)
-    : characters_(text.begin(), text.end()), first_(startOf(characters_, filename)), last_(),
+    : filename_(filename), characters_(text.begin(), text.end()),
+      first_(startOf(characters_, filename_)), last_(),
       skipper_(),
       scanner_(first_, last_,
                ScriptScanner::policies_t(

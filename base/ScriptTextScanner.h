@@ -21,6 +21,7 @@ public:
     const ScriptScanner& getScanner() const { return scanner_; }
 
 private:
+    std::string filename_;
     std::vector<char> characters_;
     ScriptIterator first_;
     ScriptIterator last_;

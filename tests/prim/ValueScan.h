@@ -30,7 +30,8 @@ public:
 
     const VRK::ScriptScanner& scanner() const { return scan_; }
     std::string rest() const { return std::string(first_, last_); }
-    static std::string fileName() { return "file.vrk"; }
+    // Positions point at this name, which outlives them.
+    static const char* fileName() { return "file.vrk"; }
 
 private:
     using Iteration =
