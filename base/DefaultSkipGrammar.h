@@ -7,18 +7,25 @@
 namespace VRK {
 
 // What script text skips between tokens: white space, "//" line comments and
-// "/* */" block comments.
-struct DefaultSkipGrammar : public boost::spirit::classic::grammar<DefaultSkipGrammar> {
+// "/* */" block comments. The scanner skips before every token, so the expression is
+// parsed directly rather than through a grammar's rule, which would look its
+// definition up and call through a virtual function at each skip.
+struct DefaultSkipGrammar : public boost::spirit::classic::parser<DefaultSkipGrammar> {
+    using self_t = DefaultSkipGrammar;
+
     template <class ScannerT>
-    struct definition {
-        explicit definition(const DefaultSkipGrammar&)
-        {
-            using namespace boost::spirit::classic;
-            skip = space_p | comment_p("//") | comment_p("/*", "*/");
-        }
-        boost::spirit::classic::rule<ScannerT> skip;
-        const boost::spirit::classic::rule<ScannerT>& start() const { return skip; }
+    struct result {
+        using type = typename boost::spirit::classic::match_result<
+            ScannerT, boost::spirit::classic::nil_t>::type;
     };
+
+    template <class ScannerT>
+    typename boost::spirit::classic::parser_result<self_t, ScannerT>::type
+    parse(const ScannerT& scan) const
+    {
+        using namespace boost::spirit::classic;
+        return (space_p | comment_p("//") | comment_p("/*", "*/")).parse(scan);
+    }
 };
 
 } // namespace VRK
