@@ -19,12 +19,16 @@ struct DefaultSkipGrammar : public boost::spirit::classic::parser<DefaultSkipGra
             ScannerT, boost::spirit::classic::nil_t>::type;
     };
 
+    // Most calls stand on a token with nothing to skip: only a "/" can open a comment,
+    // so the comment parsers are tried on a "/" alone.
     template <class ScannerT>
     typename boost::spirit::classic::parser_result<self_t, ScannerT>::type
     parse(const ScannerT& scan) const
     {
         using namespace boost::spirit::classic;
-        return (space_p | comment_p("//") | comment_p("/*", "*/")).parse(scan);
+        if (scan.at_end() || *scan != '/')
+            return space_p.parse(scan);
+        return (comment_p("//") | comment_p("/*", "*/")).parse(scan);
     }
 };
 
