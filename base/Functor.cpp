@@ -158,17 +158,24 @@ std::shared_ptr<DataEditor> Functor::addOptionalInputPort(const std::string& nam
     return port->getDataEditorPtr();
 }
 
+// Built in place: every functor of a script read makes its ports, and a copy of each
+// would cost as much again.
 void Functor::addOutputPort(const std::string& name, const std::string& description,
                             const std::shared_ptr<BaseType>& type, bool linked)
 {
-    addOutputPort(OutputPort(name, description, type, linked));
+    adoptOutputPort(std::make_shared<OutputPort>(name, description, type, linked));
 }
 
 void Functor::addOutputPort(const OutputPort& port, const std::vector<std::string>&)
 {
-    assert(!getOutputPort(port.getName()) && "output port names are unique");
-    outputs_.push_back(std::make_shared<OutputPort>(port));
-    outputs_.back()->setOwner(this);
+    adoptOutputPort(std::make_shared<OutputPort>(port));
+}
+
+void Functor::adoptOutputPort(const std::shared_ptr<OutputPort>& port)
+{
+    assert(!getOutputPort(port->getName()) && "output port names are unique");
+    outputs_.push_back(port);
+    port->setOwner(this);
 }
 
 InputPort* Functor::getInputPort(const std::string& nameOrAlias) const

@@ -121,6 +121,7 @@ protected:
 private:
     void adoptInputPort(const std::shared_ptr<InputPort>& port,
                         const std::vector<std::string>& aliases);
+    void adoptOutputPort(const std::shared_ptr<OutputPort>& port);
     void copyPortsFrom(const Functor& other);
 
     std::vector<std::shared_ptr<InputPort>> inputs_;

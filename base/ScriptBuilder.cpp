@@ -110,8 +110,9 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
     if (!NameUtils::isValidName(alias))
         ExceptionUtils::raiseAt<ParseError>(position,
                                             "The alias " + quoted(alias) + " is not a valid name.");
-    auto known = aliases_.find(alias);
-    if (known != aliases_.end()) {
+    // One search serves the check and the insertion.
+    auto known = aliases_.lower_bound(alias);
+    if (known != aliases_.end() && known->first == alias) {
         const ScriptPosition& first = known->second.second;
         std::string message = "The alias " + quoted(alias) + " is already used";
         if (first.isKnown())
@@ -119,7 +120,7 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
                        + std::to_string(first.column);
         ExceptionUtils::raiseAt<ParseError>(position, message + ".");
     }
-    aliases_[alias] = {&functor, position};
+    aliases_.emplace_hint(known, alias, std::make_pair(&functor, position));
     functor.setAlias(alias);
 }
 
