@@ -2,24 +2,26 @@
 
 namespace VRK {
 
-LineBuffer::LineBuffer(const std::string& text)
+// Every script read keeps its source for diagnostics, which quote a line now and
+// then: the text is kept whole with where each line starts, and a line is cut out
+// only when asked for.
+LineBuffer::LineBuffer(const std::string& text) : text_(text), starts_{0}
 {
-    size_t start = 0;
-    while (start <= text.size()) {
-        size_t end = text.find('\n', start);
-        if (end == std::string::npos)
-            end = text.size();
-        std::string line = text.substr(start, end - start);
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        lines_.push_back(line);
-        start = end + 1;
-    }
+    for (size_t end = text_.find('\n'); end != std::string::npos;
+         end = text_.find('\n', end + 1))
+        starts_.push_back(end + 1);
 }
 
 std::string LineBuffer::getLine(size_t line) const
 {
-    return line >= 1 && line <= lines_.size() ? lines_[line - 1] : std::string();
+    if (line < 1 || line > starts_.size())
+        return std::string();
+    const size_t start = starts_[line - 1];
+    const size_t end = line < starts_.size() ? starts_[line] - 1 : text_.size();
+    std::string text = text_.substr(start, end - start);
+    if (!text.empty() && text.back() == '\r')
+        text.pop_back();
+    return text;
 }
 
 } // namespace VRK

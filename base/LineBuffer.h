@@ -14,10 +14,12 @@ public:
 
     // Line `line`, counted from 1, without its line break; empty when out of range.
     std::string getLine(size_t line) const;
-    size_t getLineCount() const { return lines_.size(); }
+    size_t getLineCount() const { return starts_.size(); }
 
 private:
-    std::vector<std::string> lines_;
+    std::string text_;
+    // Where each line starts in `text_`.
+    std::vector<size_t> starts_;
 };
 
 } // namespace VRK

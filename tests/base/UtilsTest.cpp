@@ -87,6 +87,9 @@ TEST(LineBuffer, GivesLinesFromOneWithoutBreaks)
     EXPECT_EQ(buffer.getLine(4), "fourth");
     EXPECT_EQ(buffer.getLine(0), "");
     EXPECT_EQ(buffer.getLine(5), "");
+    EXPECT_EQ(buffer.getLineCount(), 4u);
+    EXPECT_EQ(VRK::LineBuffer("end\n").getLineCount(), 2u);
+    EXPECT_EQ(VRK::LineBuffer("").getLineCount(), 1u);
 }
 
 TEST(Properties, KeepOrderAndHonourOverwrite)
