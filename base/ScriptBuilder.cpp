@@ -45,7 +45,7 @@ ScriptPosition shift(const ScriptPosition& inText, const ScriptPosition& textSta
 
 ScriptBuilder::ScriptBuilder(Script& script) : script_(script)
 {
-    frames_.push_back(Frame{&script, nullptr});
+    frames_.push_back(Frame{&script, nullptr, nullptr});
 }
 
 void ScriptBuilder::addProperty(const std::string& name, const std::string& value)
@@ -88,7 +88,7 @@ Functor& ScriptBuilder::beginFunctor(const std::string& name, const std::string&
 
 void ScriptBuilder::checkContainment(Functor& functor, const ScriptPosition& position) const
 {
-    auto* container = dynamic_cast<ContainerFunctor*>(frames_.back().container);
+    ContainerFunctor* container = frames_.back().owner;
     if (container && !container->isCompatible(&functor))
         ExceptionUtils::raiseAt<ParseError>(position, refusedContentMessage(functor, *container));
 }
@@ -132,7 +132,7 @@ void ScriptBuilder::beginContents(const ScriptPosition& position)
         ExceptionUtils::raiseAt<ParseError>(position, "The functor " + describe(functor)
                                                           + " is not a container: it holds no "
                                                             "functors.");
-    frames_.push_back(Frame{container, nullptr});
+    frames_.push_back(Frame{container, container, nullptr});
 }
 
 void ScriptBuilder::endContents()

@@ -19,6 +19,7 @@
 
 namespace VRK {
 
+class ContainerFunctor;
 class Functor;
 class FunctorContainer;
 class OutputPort;
@@ -92,6 +93,9 @@ public:
 private:
     struct Frame {
         FunctorContainer* container;
+        // The container as a functor, none for the script; found once per frame, not
+        // once per functor placed in it.
+        ContainerFunctor* owner;
         Functor* current;
     };
     struct PendingBinding {
