@@ -8,6 +8,7 @@
 #include "base/ValueParser.h"
 #include "base/WorkdirBinding.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace VRK {
@@ -45,7 +46,7 @@ ScriptPosition shift(const ScriptPosition& inText, const ScriptPosition& textSta
 
 ScriptBuilder::ScriptBuilder(Script& script) : script_(script)
 {
-    frames_.push_back(Frame{&script, nullptr, nullptr});
+    frames_.push_back(Frame{&script, nullptr, nullptr, {}});
 }
 
 void ScriptBuilder::addProperty(const std::string& name, const std::string& value)
@@ -77,6 +78,7 @@ Functor& ScriptBuilder::beginFunctor(const std::string& name, const std::string&
     assert(functor != 0 && "functor != 0");
     functor->setPosition(position);
     frame.current = functor;
+    frame.given.clear();
     checkContainment(*functor, position);
     if (!alias.empty())
         registerAlias(*functor, alias, position);
@@ -132,7 +134,7 @@ void ScriptBuilder::beginContents(const ScriptPosition& position)
         ExceptionUtils::raiseAt<ParseError>(position, "The functor " + describe(functor)
                                                           + " is not a container: it holds no "
                                                             "functors.");
-    frames_.push_back(Frame{container, container, nullptr});
+    frames_.push_back(Frame{container, container, nullptr, {}});
 }
 
 void ScriptBuilder::endContents()
@@ -164,10 +166,12 @@ InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition
 {
     Functor& functor = getCurrentFunctor();
     InputPort* port = &findInput(functor, name, position);
-    if (!givenPorts_.insert(port).second)
+    std::vector<const InputPort*>& given = frames_.back().given;
+    if (std::find(given.begin(), given.end(), port) != given.end())
         ExceptionUtils::raiseAt<ParseError>(position, "The input " + quoted(port->getName())
                                                           + " of " + describe(functor)
                                                           + " is given twice.");
+    given.push_back(port);
     port->setPosition(position);
     return *port;
 }

@@ -12,7 +12,6 @@
 
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -97,6 +96,9 @@ private:
         // once per functor placed in it.
         ContainerFunctor* owner;
         Functor* current;
+        // The inputs of `current` given so far. Only the current functor takes inputs,
+        // and a functor that is no longer current never is again.
+        std::vector<const InputPort*> given;
     };
     struct PendingBinding {
         InputPort* port;
@@ -119,7 +121,6 @@ private:
     std::vector<Frame> frames_;
     std::vector<std::pair<std::string, std::string>> pendingProperties_;
     std::map<std::string, std::pair<Functor*, ScriptPosition>> aliases_;
-    std::set<const InputPort*> givenPorts_;
     std::vector<PendingBinding> bindings_;
 };
 
