@@ -113,8 +113,8 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
         ExceptionUtils::raiseAt<ParseError>(position,
                                             "The alias " + quoted(alias) + " is not a valid name.");
     // One search serves the check and the insertion.
-    auto known = aliases_.lower_bound(alias);
-    if (known != aliases_.end() && known->first == alias) {
+    const auto [known, inserted] = aliases_.try_emplace(alias, &functor, position);
+    if (!inserted) {
         const ScriptPosition& first = known->second.second;
         std::string message = "The alias " + quoted(alias) + " is already used";
         if (first.isKnown())
@@ -122,7 +122,6 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
                        + std::to_string(first.column);
         ExceptionUtils::raiseAt<ParseError>(position, message + ".");
     }
-    aliases_.emplace_hint(known, alias, std::make_pair(&functor, position));
     functor.setAlias(alias);
 }
 

@@ -10,9 +10,9 @@
 #include "base/ScannerTypes.h"
 #include "base/ScriptPosition.h"
 
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -120,7 +120,8 @@ private:
     Script& script_;
     std::vector<Frame> frames_;
     std::vector<std::pair<std::string, std::string>> pendingProperties_;
-    std::map<std::string, std::pair<Functor*, ScriptPosition>> aliases_;
+    // Looked up for every alias defined and every reference resolved; never listed.
+    std::unordered_map<std::string, std::pair<Functor*, ScriptPosition>> aliases_;
     std::vector<PendingBinding> bindings_;
 };
 
