@@ -146,6 +146,13 @@ void Functor::addInputPort(const InputPort& port, const std::vector<std::string>
     adoptInputPort(port.clone(), aliases);
 }
 
+void Functor::addInputPort(const std::shared_ptr<InputPort>& port,
+                           const std::vector<std::string>& aliases)
+{
+    assert(port != 0 && "port != 0");
+    adoptInputPort(port, aliases);
+}
+
 std::shared_ptr<DataEditor> Functor::addOptionalInputPort(const std::string& name,
                                                           const std::string& description,
                                                           const std::shared_ptr<BaseType>& type,

@@ -58,6 +58,10 @@ public:
                       const std::shared_ptr<BaseType>& type, bool linked,
                       const std::vector<std::string>& aliases = {});
     void addInputPort(const InputPort& port, const std::vector<std::string>& aliases = {});
+    // Takes `port` itself rather than a copy, for ports of a kind of their own built
+    // by the functor.
+    void addInputPort(const std::shared_ptr<InputPort>& port,
+                      const std::vector<std::string>& aliases = {});
     std::shared_ptr<DataEditor> addOptionalInputPort(const std::string& name,
                                                      const std::string& description,
                                                      const std::shared_ptr<BaseType>& type,

@@ -3,6 +3,7 @@
 #include "base/Logger.h"
 #include "base/StrongInputPort.h"
 
+#include <memory>
 #include <sstream>
 
 namespace Prim {
@@ -10,8 +11,10 @@ namespace Prim {
 void JunctionUtils::addPorts(VRK::Functor& junction, const Ports& ports,
                              const std::shared_ptr<VRK::BaseType>& type)
 {
-    junction.addInputPort(VRK::StrongInputPort(ports.first, ports.inputDescription, type));
-    junction.addInputPort(VRK::StrongInputPort(ports.second, ports.inputDescription, type));
+    junction.addInputPort(
+        std::make_shared<VRK::StrongInputPort>(ports.first, ports.inputDescription, type));
+    junction.addInputPort(
+        std::make_shared<VRK::StrongInputPort>(ports.second, ports.inputDescription, type));
     junction.addOutputPort(ports.output, ports.outputDescription, type);
     junction.setFlag(4, true);
 }

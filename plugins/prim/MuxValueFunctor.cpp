@@ -6,6 +6,8 @@
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/MultiplexerType.h"
 
+#include <memory>
+
 namespace Prim {
 
 MuxValue::MuxValue()
@@ -13,8 +15,8 @@ MuxValue::MuxValue()
               VRK::Singleton<MultiplexerType>::getInstance())
 {
     addInputPort("initial", "Initial value.", DoubleType::getInstance(), false, {"first"});
-    addInputPort(VRK::FeedbackStrongInputPort("feedback", "Value generated from model step.",
-                                              DoubleType::getInstance()));
+    addInputPort(std::make_shared<VRK::FeedbackStrongInputPort>(
+        "feedback", "Value generated from model step.", DoubleType::getInstance()));
     addOutputPort("value", "Value.", DoubleType::getInstance());
     setFlag(3, true);
 }
