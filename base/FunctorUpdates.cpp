@@ -7,13 +7,18 @@
 
 namespace VRK {
 
+std::string makeFunctorAlias(const std::string& name, int number)
+{
+    std::string alias = name;
+    if (!alias.empty())
+        alias[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(alias[0])));
+    return alias + std::to_string(number);
+}
+
 void updateFunctorAlias(const std::shared_ptr<Functor>& functor, int number)
 {
     assert(functor != 0 && "functor != 0");
-    std::string alias = functor->getName();
-    if (!alias.empty())
-        alias[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(alias[0])));
-    functor->setAlias(alias + std::to_string(number));
+    functor->setAlias(makeFunctorAlias(functor->getName(), number));
 }
 
 void updateFunctorPortOwner(const std::shared_ptr<Functor>& functor)

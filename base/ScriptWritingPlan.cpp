@@ -6,6 +6,7 @@
 #include "base/ExceptionUtils.h"
 #include "base/FactoryFarmManager.h"
 #include "base/FileException.h"
+#include "base/FunctorUpdates.h"
 #include "base/NameUtils.h"
 #include "base/PortScope.h"
 #include "base/Properties.h"
@@ -13,7 +14,6 @@
 #include "base/WorkdirBinding.h"
 
 #include <cassert>
-#include <cctype>
 #include <cstdlib>
 #include <memory>
 #include <set>
@@ -153,10 +153,8 @@ void ScriptWritingPlan::assignAliases()
         }
         if (!isReferenced)
             return;
-        std::string stem = functor.getName();
-        stem[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(stem[0])));
         for (int number = 1;; ++number) {
-            const std::string candidate = stem + std::to_string(number);
+            const std::string candidate = makeFunctorAlias(functor.getName(), number);
             if (taken.insert(candidate).second) {
                 aliases_[&functor] = candidate;
                 return;
