@@ -1,6 +1,7 @@
 #include "base/ContainerFunctorUtils.h"
 
 #include "base/ContainerFunctor.h"
+#include "base/FunctorNameUtils.h"
 #include "base/HookFunctor.h"
 #include "base/Logger.h"
 #include "base/RunContext.h"
@@ -24,7 +25,7 @@ void report(const Functor& functor, const char* message, const std::string& desc
         return;
     std::ostringstream line;
     line.precision(20);
-    line << "The run of " << functor.getDisplayName() << " failed: " << described;
+    line << "The run of " << FunctorNameUtils::describeAt(functor) << " failed: " << described;
     logger->log(tag, line.str());
 }
 

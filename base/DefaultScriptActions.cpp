@@ -3,6 +3,7 @@
 #include "base/ExceptionUtils.h"
 #include "base/FactoryFarmManager.h"
 #include "base/Functor.h"
+#include "base/FunctorNameUtils.h"
 #include "base/ParseError.h"
 #include "base/QuotedText.h"
 #include "base/ScriptBuilder.h"
@@ -110,13 +111,13 @@ void DefaultScriptActions::unterminatedFunctor(const ScriptIterator& first, cons
     if (!word.empty() && !startsStatement)
         raise(next, "Expecting \"=\" after the input name \"" + word + "\".");
     raise(first, "Expecting an input name, \";\" or \"{\" after the inputs of "
-                     + ScriptBuilder::describe(builder_.getCurrentFunctor()) + ".");
+                     + FunctorNameUtils::describe(builder_.getCurrentFunctor()) + ".");
 }
 
 void DefaultScriptActions::beginContents(const ScriptIterator& first, const ScriptIterator&)
 {
     open_.push_back(
-        OpenContents{ScriptBuilder::describe(builder_.getCurrentFunctor()), positionOf(first)});
+        OpenContents{FunctorNameUtils::describe(builder_.getCurrentFunctor()), positionOf(first)});
     builder_.beginContents(positionOf(first));
 }
 

@@ -3,6 +3,7 @@
 #include "base/BaseType.h"
 #include "base/FunctorContainer.h"
 #include "base/Trace.h"
+#include "base/FunctorNameUtils.h"
 
 #include <algorithm>
 #include <sstream>
@@ -104,7 +105,7 @@ void Functor::onIndirectContainerErased(size_t) {}
 namespace {
 std::string describeRun(const void* functor)
 {
-    return "running " + static_cast<const Functor*>(functor)->getDisplayName();
+    return "running " + FunctorNameUtils::describeAt(*static_cast<const Functor*>(functor));
 }
 } // namespace
 
@@ -225,17 +226,6 @@ bool Functor::getFlag(FunctorFlag flag) const
     return flags_.test(flag);
 }
 
-Script* Functor::getScript() const { return container_ ? container_->getScript() : nullptr; }
-
-std::string Functor::getDisplayName() const
-{
-    std::ostringstream name;
-    name << "functor \"" << (alias_.empty() ? getName() : alias_) << "\"";
-    if (position_.isKnown())
-        name << " at " << position_;
-    return name.str();
-}
-
 InputPort& Functor::requireInputPort(const std::string& name) const
 {
     InputPort* port = getInputPort(name);
@@ -252,12 +242,13 @@ OutputPort& Functor::requireOutputPort(const std::string& name) const
 
 std::string Functor::missingDataMessage(const DataHolder& holder) const
 {
-    return "The port \"" + holder.getName() + "\" of " + getDisplayName() + " holds no data.";
+    return "The port \"" + holder.getName() + "\" of " + FunctorNameUtils::describeAt(*this)
+           + " holds no data.";
 }
 
 std::string Functor::wrongDataMessage(const DataHolder& holder) const
 {
-    return "The port \"" + holder.getName() + "\" of " + getDisplayName()
+    return "The port \"" + holder.getName() + "\" of " + FunctorNameUtils::describeAt(*this)
            + " holds data of another type than \""
            + (holder.getType() ? holder.getType()->getName() : std::string("?")) + "\".";
 }

@@ -101,8 +101,6 @@ public:
     void setAlias(const std::string& alias) { alias_ = alias; }
     const ScriptPosition& getPosition() const { return position_; }
     void setPosition(const ScriptPosition& position) { position_ = position; }
-    // The alias when there is one, else the name, with the position when known.
-    std::string getDisplayName() const;
 
 protected:
     InputPort& requireInputPort(const std::string& name) const;

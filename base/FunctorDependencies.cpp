@@ -2,6 +2,7 @@
 
 #include "base/ContainerFunctor.h"
 #include "base/ExceptionUtils.h"
+#include "base/FunctorNameUtils.h"
 #include "base/GraphException.h"
 
 #include <algorithm>
@@ -116,15 +117,12 @@ void FunctorDependencies::raiseCycle(const std::vector<size_t>& unordered) const
         walk.push_back(previous);
     }
     std::sort(walk.begin(), walk.end());
-    std::string names;
-    for (size_t position = 0; position < walk.size(); ++position) {
-        if (position > 0)
-            names += position + 1 == walk.size() ? " and " : ", ";
-        names += functors_[walk[position]]->getDisplayName();
-    }
+    std::vector<std::string> names;
+    for (size_t index : walk)
+        names.push_back(FunctorNameUtils::describeAt(*functors_[index]));
     // Diagnostics point at the first functor of the cycle in script order.
     ExceptionUtils::raiseAt<GraphException>(functors_[walk.front()]->getPosition(),
-                                            "The " + names
+                                            "The functors " + FunctorNameUtils::listItems(names)
                                                 + " depend on each other in a cycle that no "
                                                   "feedback port closes.");
 }

@@ -5,10 +5,11 @@
 #include "base/DataException.h"
 #include "base/ExceptionUtils.h"
 #include "base/FunctorDependencies.h"
+#include "base/FunctorNameUtils.h"
+#include "base/FunctorWalk.h"
 #include "base/GraphException.h"
 #include "base/PortScope.h"
 #include "base/Script.h"
-#include "base/ScriptBuilder.h"
 #include "base/StrongInputPort.h"
 #include "base/TypeCompatibility.h"
 #include "base/TypeException.h"
@@ -21,18 +22,18 @@ namespace VRK {
 
 namespace {
 
-std::string quoted(const std::string& text) { return "\"" + text + "\""; }
-
 std::string typeName(const DataHolder& holder)
 {
-    return holder.getType() ? quoted(holder.getType()->getName()) : std::string("no type");
+    return holder.getType() ? FunctorNameUtils::quote(holder.getType()->getName())
+                            : std::string("no type");
 }
 
 // "The input "value" of "s" (TestSink)"
 std::string inputOf(const InputPort& port)
 {
     return std::string(PortScope::isInternalInput(port) ? "The internal input " : "The input ")
-           + quoted(port.getName()) + " of " + ScriptBuilder::describe(*port.getOwner());
+           + FunctorNameUtils::quote(port.getName()) + " of "
+           + FunctorNameUtils::describe(*port.getOwner());
 }
 
 // Where a port's problem shows: where the script set it, else at its functor.
@@ -106,14 +107,14 @@ void NonIntrusiveScriptVerifier::checkBinding(const InputPort& port,
         && !PortScope::isWithin(PortScope::getReadingContainer(port), producer))
         ExceptionUtils::raiseAt<GraphException>(
             positionOf(port), inputOf(port) + " reads the internal output "
-                                  + quoted(peer->getName()) + " of "
-                                  + ScriptBuilder::describe(producer) + " from outside it.");
+                                  + FunctorNameUtils::quote(peer->getName()) + " of "
+                                  + FunctorNameUtils::describe(producer) + " from outside it.");
     if (!TypeCompatibility::isCompatible(peer->getType(), port.getType()))
         ExceptionUtils::raiseAt<TypeException>(
-            positionOf(port), inputOf(port) + ", of type " + typeName(port)
-                                  + ", cannot be bound to the output " + quoted(peer->getName())
-                                  + " of " + ScriptBuilder::describe(producer) + ", of type "
-                                  + typeName(*peer) + ".");
+            positionOf(port),
+            inputOf(port) + ", of type " + typeName(port) + ", cannot be bound to the output "
+                + FunctorNameUtils::quote(peer->getName()) + " of "
+                + FunctorNameUtils::describe(producer) + ", of type " + typeName(*peer) + ".");
     // An input is pulled before its functor runs: it cannot wait for the functor's own
     // outputs, nor for those of its contents, unless it carries the previous pass.
     const Functor& reader = *port.getOwner();
@@ -139,20 +140,19 @@ void NonIntrusiveScriptVerifier::checkRequiredInputs(const Functor& functor) con
                 functor.getPosition(), inputOf(*port) + " is required but neither set nor bound.");
     }
     bool oneBound = alternatives.empty();
-    std::string names;
-    for (size_t i = 0; i < alternatives.size(); ++i) {
-        oneBound = oneBound || alternatives[i]->isBound();
-        names += (i == 0 ? "" : i + 1 == alternatives.size() ? " and " : ", ")
-                 + quoted(alternatives[i]->getName());
+    std::vector<std::string> names;
+    for (const InputPort* alternative : alternatives) {
+        oneBound = oneBound || alternative->isBound();
+        names.push_back(alternative->getName());
     }
     if (!oneBound)
         ExceptionUtils::raiseAt<DataException>(
-            functor.getPosition(),
-            alternatives.size() == 1
-                ? inputOf(*alternatives[0]) + " is required but not bound."
-                : "None of the inputs " + names + " of " + ScriptBuilder::describe(functor)
-                      + " is bound: one of them must be.");
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+            functor.getPosition(), alternatives.size() == 1
+                                       ? inputOf(*alternatives[0]) + " is required but not bound."
+                                       : "None of the inputs " + FunctorNameUtils::listQuoted(names)
+                                             + " of " + FunctorNameUtils::describe(functor)
+                                             + " is bound: one of them must be.");
+    if (const ContainerFunctor* container = functor.asContainer())
         for (const auto& port : container->getInternalInputPorts())
             if (!port->isOptional() && !port->isBound())
                 ExceptionUtils::raiseAt<DataException>(
@@ -165,7 +165,8 @@ void NonIntrusiveScriptVerifier::checkContents(const ContainerFunctor& container
     for (const auto& functor : container.getFunctors())
         if (!container.isCompatible(functor.get()))
             ExceptionUtils::raiseAt<TypeException>(
-                functor->getPosition(), ScriptBuilder::refusedContentMessage(*functor, container));
+                functor->getPosition(),
+                FunctorNameUtils::refusedContentMessage(*functor, container));
 }
 
 void NonIntrusiveScriptVerifier::checkCycles(const FunctorContainer& container) const

@@ -1,6 +1,7 @@
 #include "base/ScriptBuilder.h"
 
 #include "base/ContainerFunctor.h"
+#include "base/FunctorNameUtils.h"
 #include "base/NameUtils.h"
 #include "base/PortScope.h"
 #include "base/PropertyUtils.h"
@@ -15,19 +16,13 @@ namespace VRK {
 
 namespace {
 
-std::string quoted(const std::string& text) { return "\"" + text + "\""; }
-
-// "a", "b" and "c"
-template <class Ports, class NameOf>
-std::string listNames(const Ports& ports, NameOf nameOf)
+template <class Ports>
+std::string listPortNames(const Ports& ports)
 {
-    std::string list;
-    for (size_t i = 0; i < ports.size(); ++i) {
-        if (i > 0)
-            list += i + 1 == ports.size() ? " and " : ", ";
-        list += quoted(nameOf(ports[i]));
-    }
-    return list;
+    std::vector<std::string> names;
+    for (const auto* port : ports)
+        names.push_back(port->getName());
+    return FunctorNameUtils::listQuoted(names);
 }
 
 // A value read from a text of its own reports positions within that text (line 1 is
@@ -92,31 +87,26 @@ void ScriptBuilder::checkContainment(Functor& functor, const ScriptPosition& pos
 {
     ContainerFunctor* container = frames_.back().owner;
     if (container && !container->isCompatible(&functor))
-        ExceptionUtils::raiseAt<ParseError>(position, refusedContentMessage(functor, *container));
+        ExceptionUtils::raiseAt<ParseError>(
+            position, FunctorNameUtils::refusedContentMessage(functor, *container));
 }
 
 std::string ScriptBuilder::unknownFunctorMessage(const std::string& name)
 {
-    return "The functor " + quoted(name) + " is not registered.";
-}
-
-std::string ScriptBuilder::refusedContentMessage(const Functor& functor, const Functor& container)
-{
-    return "The functor " + quoted(functor.getName()) + " cannot be placed inside "
-           + describe(container) + ".";
+    return "The functor " + FunctorNameUtils::quote(name) + " is not registered.";
 }
 
 void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
                                   const ScriptPosition& position)
 {
     if (!NameUtils::isValidName(alias))
-        ExceptionUtils::raiseAt<ParseError>(position,
-                                            "The alias " + quoted(alias) + " is not a valid name.");
+        ExceptionUtils::raiseAt<ParseError>(position, "The alias " + FunctorNameUtils::quote(alias)
+                                                          + " is not a valid name.");
     // One search serves the check and the insertion.
     const auto [known, inserted] = aliases_.try_emplace(alias, &functor, position);
     if (!inserted) {
         const ScriptPosition& first = known->second.second;
-        std::string message = "The alias " + quoted(alias) + " is already used";
+        std::string message = "The alias " + FunctorNameUtils::quote(alias) + " is already used";
         if (first.isKnown())
             message += " at line " + std::to_string(first.line) + ", column "
                        + std::to_string(first.column);
@@ -130,7 +120,8 @@ void ScriptBuilder::beginContents(const ScriptPosition& position)
     Functor& functor = getCurrentFunctor();
     auto* container = dynamic_cast<ContainerFunctor*>(&functor);
     if (!container)
-        ExceptionUtils::raiseAt<ParseError>(position, "The functor " + describe(functor)
+        ExceptionUtils::raiseAt<ParseError>(position, "The functor "
+                                                          + FunctorNameUtils::describe(functor)
                                                           + " is not a container: it holds no "
                                                             "functors.");
     frames_.push_back(Frame{container, container, nullptr, {}});
@@ -167,9 +158,9 @@ InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition
     InputPort* port = &findInput(functor, name, position);
     std::vector<const InputPort*>& given = frames_.back().given;
     if (std::find(given.begin(), given.end(), port) != given.end())
-        ExceptionUtils::raiseAt<ParseError>(position, "The input " + quoted(port->getName())
-                                                          + " of " + describe(functor)
-                                                          + " is given twice.");
+        ExceptionUtils::raiseAt<ParseError>(
+            position, "The input " + FunctorNameUtils::quote(port->getName()) + " of "
+                          + FunctorNameUtils::describe(functor) + " is given twice.");
     given.push_back(port);
     port->setPosition(position);
     return *port;
@@ -178,12 +169,11 @@ InputPort& ScriptBuilder::takePort(const std::string& name, const ScriptPosition
 std::string ScriptBuilder::unknownPortMessage(const Functor& functor, const std::string& name)
 {
     const std::vector<InputPort*> inputs = PortScope::getAllInputs(functor);
-    std::string message =
-        "The functor " + describe(functor) + " has no input " + quoted(name) + ".";
+    std::string message = "The functor " + FunctorNameUtils::describe(functor) + " has no input "
+                          + FunctorNameUtils::quote(name) + ".";
     if (inputs.empty())
         return message + " It has no inputs.";
-    return message + " Its inputs are "
-           + listNames(inputs, [](const InputPort* port) { return port->getName(); }) + ".";
+    return message + " Its inputs are " + listPortNames(inputs) + ".";
 }
 
 void ScriptBuilder::bind(InputPort& port, const std::string& alias, const std::string& output,
@@ -196,8 +186,8 @@ DataEditor& ScriptBuilder::takeValueEditor(InputPort& port, const ScriptPosition
 {
     if (!port.hasDataEditor())
         ExceptionUtils::raiseAt<ParseError>(
-            position, "The input " + quoted(port.getName()) + " of "
-                          + describe(*port.getOwner())
+            position, "The input " + FunctorNameUtils::quote(port.getName()) + " of "
+                          + FunctorNameUtils::describe(*port.getOwner())
                           + " takes no typed-in value: bind it to an output (alias.port).");
     port.setValueSet(true);
     return *port.getDataEditor();
@@ -205,7 +195,7 @@ DataEditor& ScriptBuilder::takeValueEditor(InputPort& port, const ScriptPosition
 
 std::string ScriptBuilder::noReaderMessage(const std::string& typeName)
 {
-    return "No reader is registered for values of type " + quoted(typeName) + ".";
+    return "No reader is registered for values of type " + FunctorNameUtils::quote(typeName) + ".";
 }
 
 void ScriptBuilder::setValueText(InputPort& port, const std::string& text,
@@ -239,7 +229,7 @@ void ScriptBuilder::resolve(const PendingBinding& binding) const
     auto known = aliases_.find(binding.alias);
     if (known == aliases_.end())
         ExceptionUtils::raiseAt<ParseError>(binding.position,
-                                            "The alias " + quoted(binding.alias)
+                                            "The alias " + FunctorNameUtils::quote(binding.alias)
                                                 + " is not defined in this script.");
     const Functor& peer = *known->second.first;
     OutputPort* output = findOutput(peer, binding.output, *binding.port);
@@ -269,19 +259,11 @@ std::string ScriptBuilder::unknownOutputMessage(const Functor& functor, const st
     if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
         for (const auto& port : container->getInternalOutputPorts())
             outputs.push_back(port.get());
-    std::string message =
-        "The functor " + describe(functor) + " has no output " + quoted(name) + ".";
+    std::string message = "The functor " + FunctorNameUtils::describe(functor) + " has no output "
+                          + FunctorNameUtils::quote(name) + ".";
     if (outputs.empty())
         return message + " It has no outputs.";
-    return message + " Its outputs are "
-           + listNames(outputs, [](const OutputPort* port) { return port->getName(); }) + ".";
-}
-
-std::string ScriptBuilder::describe(const Functor& functor)
-{
-    if (functor.getAlias().empty())
-        return quoted(functor.getName());
-    return quoted(functor.getAlias()) + " (" + functor.getName() + ")";
+    return message + " Its outputs are " + listPortNames(outputs) + ".";
 }
 
 } // namespace VRK

@@ -82,12 +82,8 @@ public:
     // input.
     static InputPort& findInput(const Functor& functor, const std::string& name,
                                 const ScriptPosition& position);
-    // How messages name a functor: its alias and name, or its name.
-    static std::string describe(const Functor& functor);
     // What is said when no functor is registered under `name`.
     static std::string unknownFunctorMessage(const std::string& name);
-    // What is said when a container does not accept a functor.
-    static std::string refusedContentMessage(const Functor& functor, const Functor& container);
 
 private:
     struct Frame {

@@ -3,6 +3,7 @@
 #include "base/DefaultWizardReader.h"
 #include "base/ExceptionUtils.h"
 #include "base/FileNotFoundException.h"
+#include "base/FunctorNameUtils.h"
 #include "base/NameUtils.h"
 #include "base/ParseError.h"
 #include "base/Script.h"
@@ -56,7 +57,7 @@ void ScriptParameters::apply(Script& script, const WizardParameter& parameter)
     InputPort& port = ScriptBuilder::findInput(*functor, parameter.port, name);
     if (port.isBound())
         ExceptionUtils::raiseAt<ParseError>(
-            name, "The input \"" + port.getName() + "\" of " + ScriptBuilder::describe(*functor)
+            name, "The input \"" + port.getName() + "\" of " + FunctorNameUtils::describe(*functor)
                       + " is bound to an output: a parameter cannot set it.");
     ScriptBuilder::setValueText(port, parameter.value, parameter.position);
     if (parameter.position.isKnown())

@@ -5,10 +5,10 @@
 
 #include "base/Exception.h"
 #include "base/Functor.h"
+#include "base/FunctorNameUtils.h"
 #include "base/Logger.h"
 #include "base/ProcessorManager.h"
 #include "base/Script.h"
-#include "base/ScriptBuilder.h"
 #include "base/ScriptFiles.h"
 #include "base/ScriptParameters.h"
 #include "base/Task.h"
@@ -66,7 +66,7 @@ void reportRunError(const VRK::Script& script, const std::exception& error,
         VRK::ScriptPosition position = failed->getPosition();
         if (!position.isKnown())
             position = VRK::ScriptPosition{script.getFilename(), 0, 0};
-        diagnostics.print("The run of " + VRK::ScriptBuilder::describe(*failed)
+        diagnostics.print("The run of " + VRK::FunctorNameUtils::describe(*failed)
                               + " failed: " + message,
                           position);
     } else if (hostError) {

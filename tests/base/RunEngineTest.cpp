@@ -86,8 +86,8 @@ TEST_F(RunEngine, CycleThatNoFeedbackCloses)
         FAIL() << "a cycle ran";
     } catch (const VRK::GraphException& error) {
         const std::string message = error.what();
-        EXPECT_NE(message.find("functor \"a\""), std::string::npos) << message;
-        EXPECT_NE(message.find("functor \"b\""), std::string::npos) << message;
+        EXPECT_NE(message.find("The functors \"a\""), std::string::npos) << message;
+        EXPECT_NE(message.find(" and \"b\""), std::string::npos) << message;
         EXPECT_EQ(message.find("outside"), std::string::npos) << message;
         EXPECT_EQ(message.find("one"), std::string::npos) << message;
     }
@@ -180,7 +180,7 @@ TEST_F(RunEngine, FailureIsLaidOnTheInnermostFunctorAndReportedOnce)
     EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
                             [](const std::string& line) {
                                 return line.rfind(
-                                           "The run of functor \"f\" failed: "
+                                           "The run of \"f\" (Failing) failed: "
                                            "RuntimeException: The functor failed on purpose.",
                                            0)
                                        == 0;

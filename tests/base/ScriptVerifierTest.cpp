@@ -87,7 +87,7 @@ TEST(ScriptVerifier, RejectsCyclesThatNoFeedbackPortCloses)
     const std::string pair = complaint<VRK::GraphException>(
         "TestSource constant = 1;\na := TestSink value = b.result;\nb := TestSink value = a.result;",
         2, 1);
-    EXPECT_NE(pair.find("functor \"a\" at test.vrk:2:1 and functor \"b\" at test.vrk:3:1"),
+    EXPECT_NE(pair.find("The functors \"a\" (TestSink) at test.vrk:2:1 and \"b\" (TestSink) at test.vrk:3:1"),
               std::string::npos)
         << pair;
     // The inside of a box reads y, and y reads from inside the box.
@@ -95,8 +95,8 @@ TEST(ScriptVerifier, RejectsCyclesThatNoFeedbackPortCloses)
         "b := TestBox condition = c.object { c := TestSource constant = 1;\n"
         "  s := TestSink value = y.result; }\ny := TestSink value = s.result;",
         1, 1);
-    EXPECT_NE(lifted.find("functor \"b\""), std::string::npos) << lifted;
-    EXPECT_NE(lifted.find("functor \"y\""), std::string::npos) << lifted;
+    EXPECT_NE(lifted.find("\"b\" (TestBox)"), std::string::npos) << lifted;
+    EXPECT_NE(lifted.find("\"y\" (TestSink)"), std::string::npos) << lifted;
     EXPECT_EQ(complaint<VRK::GraphException>("s := TestSink value = s.result;", 1, 15),
               "The input \"value\" of \"s\" (TestSink) reads an output produced by the functor "
               "itself: a cycle that no feedback port closes.");
