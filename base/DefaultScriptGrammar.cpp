@@ -5,6 +5,8 @@
 #include "base/ScriptTextScanner.h"
 #include "base/TransducedAssertiveParser.h"
 
+#include <boost/spirit/include/classic_symbols.hpp>
+
 #include <type_traits>
 
 namespace VRK {

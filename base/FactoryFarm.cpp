@@ -1,5 +1,9 @@
 #include "base/FactoryFarm.h"
 
+#include "base/Logger.h"
+
+#include <boost/spirit/include/classic_symbols.hpp>
+
 #include <sstream>
 
 namespace VRK {

@@ -1,16 +1,13 @@
 #ifndef VRK_BASE_FACTORYFARM_H
 #define VRK_BASE_FACTORYFARM_H
 
-#include "base/BaseData.h"
 #include "base/CloneFactory.h"
 #include "base/CloneFactoryError.h"
 #include "base/DataConverterName.h"
-#include "base/DataReader.h"
 #include "base/Factory.h"
 #include "base/FactoryError.h"
-#include "base/Logger.h"
+#include "base/FunctorParser.h"
 
-#include <boost/spirit/include/classic_symbols.hpp>
 #include <loki/Factory.h>
 
 #include <cassert>
@@ -21,6 +18,7 @@
 
 namespace VRK {
 
+class BaseData;
 class DataConverter;
 class DataEditor;
 class DataHolder;
@@ -32,13 +30,14 @@ class ScriptVerifier;
 class ScriptWriter;
 class WizardReader;
 class WizardWriter;
+template <class ScannerT>
+class DataReader;
 
 template <class T>
 using NamedFactory = Factory<std::shared_ptr<T>, std::string, std::string, std::shared_ptr<T> (*)(),
                              FactoryError>;
 
 using FunctorFactory = NamedFactory<Functor>;
-using FunctorParser = boost::spirit::classic::symbols<std::string, char>;
 using FunctorCloneFactory = CloneFactory<std::shared_ptr<Functor>, Functor,
                                          std::shared_ptr<Functor> (*)(const Functor&), FactoryError>;
 using DataCloneFactory =

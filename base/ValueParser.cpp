@@ -2,6 +2,7 @@
 
 #include "base/BaseType.h"
 #include "base/DataEditor.h"
+#include "base/DataReader.h"
 #include "base/ExceptionUtils.h"
 #include "base/FactoryFarmManager.h"
 #include "base/ParseError.h"

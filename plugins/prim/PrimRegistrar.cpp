@@ -1,5 +1,7 @@
 #include "plugins/prim/PrimRegistrar.h"
 
+#include <boost/spirit/include/classic_symbols.hpp>
+
 namespace Prim {
 
 void PrimRegistrar::enterFunctorNames(const std::string& name,

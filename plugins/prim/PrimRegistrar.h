@@ -1,9 +1,10 @@
 #ifndef PRIM_PRIMREGISTRAR_H
 #define PRIM_PRIMREGISTRAR_H
 
+#include "base/DataConverter.h"
 #include "base/DataEditor.h"
 #include "base/DataHolder.h"
-#include "base/DataConverter.h"
+#include "base/DataReader.h"
 #include "base/DataWriter.h"
 #include "base/FactoryFarm.h"
 #include "base/FactoryFarmManager.h"

@@ -18,6 +18,8 @@
 #include "base/TypeShim.h"
 #include "tests/support/ScriptText.h"
 
+#include <boost/spirit/include/classic_symbols.hpp>
+
 #include <mutex>
 #include <sstream>
 

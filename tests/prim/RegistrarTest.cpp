@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/PrimRegistration.h"
+
+#include <boost/spirit/include/classic_symbols.hpp>
 namespace {
 
 using VRK::Testing::LogCapture;
