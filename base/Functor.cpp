@@ -2,9 +2,9 @@
 
 #include "base/BaseType.h"
 #include "base/FunctorContainer.h"
-#include "base/Trace.h"
 #include "base/FunctorNameUtils.h"
 
+#include "base/Trace.h"
 #include <algorithm>
 #include <sstream>
 

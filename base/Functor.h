@@ -20,7 +20,6 @@
 namespace VRK {
 
 class FunctorContainer;
-class Script;
 
 // Flags of a functor, by number; their meaning is the functor's.
 using FunctorFlag = unsigned int;
@@ -96,7 +95,6 @@ public:
     // Where the functor sits: its container, the script at the top, its alias there.
     FunctorContainer* getContainer() const { return container_; }
     void setContainer(FunctorContainer* container) { container_ = container; }
-    Script* getScript() const;
     const std::string& getAlias() const { return alias_; }
     void setAlias(const std::string& alias) { alias_ = alias; }
     const ScriptPosition& getPosition() const { return position_; }

@@ -126,12 +126,6 @@ FunctorContainer* FunctorContainer::getParentContainer() const
     return self ? self->getContainer() : nullptr;
 }
 
-Script* FunctorContainer::getScript()
-{
-    FunctorContainer* parent = getParentContainer();
-    return parent ? parent->getScript() : nullptr;
-}
-
 std::shared_ptr<Functor> FunctorContainer::getSharedFunctor(const Functor* functor) const
 {
     auto position = find(functor);

@@ -8,7 +8,6 @@
 namespace VRK {
 
 class Functor;
-class Script;
 
 // An ordered collection of functors that it owns: a script or a container functor.
 class FunctorContainer {
@@ -49,7 +48,6 @@ public:
     virtual const Functor* asFunctor() const { return nullptr; }
     // The container that holds this one; none for a script.
     FunctorContainer* getParentContainer() const;
-    virtual Script* getScript();
 
     const std::vector<std::shared_ptr<Functor>>& getFunctors() const { return functors_; }
     std::shared_ptr<Functor> getSharedFunctor(const Functor* functor) const;

@@ -2,6 +2,7 @@
 #define VRK_BASE_SCRIPT_H
 
 #include "base/FunctorContainer.h"
+#include "base/LightRunner.h"
 #include "base/LineBuffer.h"
 #include "base/Propertiable.h"
 
@@ -14,12 +15,10 @@ class FunctorScheduler;
 class Task;
 
 // A model: the top container of functors, with the file it was read from.
-class Script : public FunctorContainer, public Propertiable {
+class Script : public FunctorContainer, public Propertiable, public LightRunner {
 public:
     Script();
     ~Script() override;
-
-    Script* getScript() override { return this; }
 
     const std::string& getFilename() const { return filename_; }
     void setFilename(const std::string& filename) { filename_ = filename; }
@@ -44,7 +43,7 @@ public:
     // preparing a file name): nothing when they hold data already; else, first,
     // lightly, whatever it reads that has not produced its data yet, then the functor
     // itself without its contents.
-    void runLight(Functor* functor);
+    void runLight(Functor* functor) override;
 
     // The functor of the script with this alias, searched at every depth.
     Functor* findFunctorByAlias(const std::string& alias) const;

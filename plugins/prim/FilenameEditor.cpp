@@ -4,8 +4,8 @@
 #include "base/Functor.h"
 #include "base/IllegalDataException.h"
 #include "base/InputPort.h"
+#include "base/LightRunner.h"
 #include "base/Logger.h"
-#include "base/Script.h"
 #include "base/UndefinedNodeException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/FilenameData.h"
@@ -128,7 +128,7 @@ void FilenameEditor::runWorkdirFunctor(VRK::InputPort* workdirPort)
     if (!functor)
         VRK::ExceptionUtils::raise<VRK::UndefinedNodeException>(
             "The \"workdir\" holder is not part of a functor.");
-    VRK::Script* script = functor->getScript();
+    VRK::LightRunner* script = VRK::LightRunner::of(*functor);
     if (!script)
         VRK::ExceptionUtils::raise<VRK::UndefinedNodeException>(
             "The \"Workdir\" functor is not part of a script.");

@@ -1,0 +1,16 @@
+#include "base/LightRunner.h"
+
+#include "base/Functor.h"
+#include "base/FunctorContainer.h"
+
+namespace VRK {
+
+LightRunner* LightRunner::of(const Functor& functor)
+{
+    FunctorContainer* container = functor.getContainer();
+    while (FunctorContainer* parent = container ? container->getParentContainer() : nullptr)
+        container = parent;
+    return dynamic_cast<LightRunner*>(container);
+}
+
+} // namespace VRK
