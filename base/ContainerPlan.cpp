@@ -2,6 +2,7 @@
 
 #include "base/ContainerFunctor.h"
 #include "base/FunctorScheduler.h"
+#include "base/FunctorWalk.h"
 #include "base/HookFunctor.h"
 
 namespace VRK {
@@ -39,7 +40,8 @@ ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker m
         if (auto* hook = dynamic_cast<HookFunctor*>(functor.get()))
             hooks_.push_back(hook);
     collectFeedback(container);
-    if (auto* owner = dynamic_cast<const ContainerFunctor*>(container.asFunctor()))
+    if (const ContainerFunctor* owner =
+            container.asFunctor() ? container.asFunctor()->asContainer() : nullptr)
         for (const auto& port : owner->getInternalInputPorts()) {
             if (auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get()))
                 internalFeedback_.push_back(feedback);
@@ -52,17 +54,15 @@ ContainerPlan::~ContainerPlan() = default;
 
 void ContainerPlan::collectFeedback(const FunctorContainer& inner)
 {
-    for (const auto& functor : inner.getFunctors()) {
-        for (const auto& port : functor->getInputPorts()) {
+    FunctorWalk::forEach(inner, [&](const Functor& functor) {
+        for (const auto& port : functor.getInputPorts()) {
             if (!port->isFeedback() || !port->isBound() || closingContainer(*port) != &container_)
                 continue;
             auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get());
             assert(feedback != 0 && "feedback != 0");
             feedback_.push_back(feedback);
         }
-        if (auto* container = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            collectFeedback(*container);
-    }
+    });
 }
 
 FunctorScheduler& ContainerPlan::getScheduler(LogTag tag)

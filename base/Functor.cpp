@@ -1,10 +1,11 @@
 #include "base/Functor.h"
 
 #include "base/BaseType.h"
+#include "base/ContainerFunctor.h"
 #include "base/FunctorContainer.h"
 #include "base/FunctorNameUtils.h"
-
 #include "base/Trace.h"
+
 #include <algorithm>
 #include <sstream>
 
@@ -108,6 +109,13 @@ std::string describeRun(const void* functor)
     return "running " + FunctorNameUtils::describeAt(*static_cast<const Functor*>(functor));
 }
 } // namespace
+
+ContainerFunctor* Functor::asContainer() { return dynamic_cast<ContainerFunctor*>(this); }
+
+const ContainerFunctor* Functor::asContainer() const
+{
+    return dynamic_cast<const ContainerFunctor*>(this);
+}
 
 void Functor::run()
 {

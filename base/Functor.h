@@ -19,6 +19,7 @@
 
 namespace VRK {
 
+class ContainerFunctor;
 class FunctorContainer;
 
 // Flags of a functor, by number; their meaning is the functor's.
@@ -91,6 +92,10 @@ public:
     void setFlag(FunctorFlag flag, bool value);
     bool getFlag(FunctorFlag flag) const;
     size_t getLevel() const { return level_; }
+
+    // The functor as a container of others; none for a functor that holds none.
+    ContainerFunctor* asContainer();
+    const ContainerFunctor* asContainer() const;
 
     // Where the functor sits: its container, the script at the top, its alias there.
     FunctorContainer* getContainer() const { return container_; }

@@ -28,7 +28,7 @@ void updateFunctorPortOwner(const std::shared_ptr<Functor>& functor)
         port->setOwner(functor.get());
     for (const auto& port : functor->getOutputPorts())
         port->setOwner(functor.get());
-    if (auto* container = dynamic_cast<ContainerFunctor*>(functor.get())) {
+    if (const ContainerFunctor* container = functor->asContainer()) {
         for (const auto& port : container->getInternalInputPorts())
             port->setOwner(functor.get());
         for (const auto& port : container->getInternalOutputPorts())

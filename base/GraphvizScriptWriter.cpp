@@ -3,6 +3,7 @@
 #include "base/ContainerFunctor.h"
 #include "base/ExceptionUtils.h"
 #include "base/FileException.h"
+#include "base/FunctorWalk.h"
 #include "base/PortScope.h"
 #include "base/Script.h"
 #include "base/ScriptWritingPlan.h"
@@ -54,14 +55,13 @@ GraphvizScriptWriter::~GraphvizScriptWriter() = default;
 void GraphvizScriptWriter::writeImpl(Script* script, std::ostream& out, const std::string&)
 {
     NodeIds ids;
-    ScriptWritingPlan::forEachFunctor(*script, [&](const Functor& functor) {
+    FunctorWalk::forEach(*script, [&](const Functor& functor) {
         ids[&functor] = "f" + std::to_string(ids.size() + 1);
     });
     out << "digraph script {\n";
     indent(out, 1) << "node [shape = box];\n";
     writeContents(*script, ids, 1, out);
-    ScriptWritingPlan::forEachFunctor(
-        *script, [&](const Functor& functor) { writeEdges(functor, ids, out); });
+    FunctorWalk::forEach(*script, [&](const Functor& functor) { writeEdges(functor, ids, out); });
     out << "}\n";
 }
 

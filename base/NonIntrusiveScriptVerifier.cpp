@@ -16,8 +16,6 @@
 #include "base/UndefinedNodeException.h"
 #include "base/WorkdirBinding.h"
 
-#include <functional>
-
 namespace VRK {
 
 namespace {
@@ -44,15 +42,13 @@ ScriptPosition positionOf(const InputPort& port)
 
 void collectOutputs(const FunctorContainer& container, std::set<const DataHolder*>& outputs)
 {
-    for (const auto& functor : container.getFunctors()) {
-        for (const auto& port : functor->getOutputPorts())
+    FunctorWalk::forEach(container, [&](const Functor& functor) {
+        for (const auto& port : functor.getOutputPorts())
             outputs.insert(port.get());
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
+        if (const ContainerFunctor* inner = functor.asContainer())
             for (const auto& port : inner->getInternalOutputPorts())
                 outputs.insert(port.get());
-            collectOutputs(*inner, outputs);
-        }
-    }
+    });
 }
 
 } // namespace
@@ -71,16 +67,11 @@ void NonIntrusiveScriptVerifier::checkStructure(const Script& script) const
 {
     std::set<const DataHolder*> outputs;
     collectOutputs(script, outputs);
-    std::function<void(const FunctorContainer&)> walk = [&](const FunctorContainer& container) {
-        for (const auto& functor : container.getFunctors()) {
-            checkFunctor(*functor, outputs);
-            if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
-                checkContents(*inner);
-                walk(*inner);
-            }
-        }
-    };
-    walk(script);
+    FunctorWalk::forEach(script, [&](const Functor& functor) {
+        checkFunctor(functor, outputs);
+        if (const ContainerFunctor* inner = functor.asContainer())
+            checkContents(*inner);
+    });
     checkCycles(script);
 }
 
@@ -169,27 +160,26 @@ void NonIntrusiveScriptVerifier::checkContents(const ContainerFunctor& container
                 FunctorNameUtils::refusedContentMessage(*functor, container));
 }
 
-void NonIntrusiveScriptVerifier::checkCycles(const FunctorContainer& container) const
+void NonIntrusiveScriptVerifier::checkCycles(const Script& script) const
 {
-    FunctorDependencies(container).getOrder();
-    for (const auto& functor : container.getFunctors())
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            checkCycles(*inner);
+    FunctorDependencies(script).getOrder();
+    FunctorWalk::forEach(script, [](const Functor& functor) {
+        if (const ContainerFunctor* inner = functor.asContainer())
+            FunctorDependencies(*inner).getOrder();
+    });
 }
 
-void NonIntrusiveScriptVerifier::verifyFunctors(const FunctorContainer& container) const
+void NonIntrusiveScriptVerifier::verifyFunctors(const Script& script) const
 {
-    for (const auto& functor : container.getFunctors()) {
+    FunctorWalk::forEach(script, [](Functor& functor) {
         try {
-            functor->verify();
+            functor.verify();
         } catch (Exception& error) {
             if (!error.hasScriptPosition())
-                error.setScriptPosition(functor->getPosition());
+                error.setScriptPosition(functor.getPosition());
             throw;
         }
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            verifyFunctors(*inner);
-    }
+    });
 }
 
 } // namespace VRK

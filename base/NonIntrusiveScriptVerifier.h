@@ -37,14 +37,14 @@ protected:
     // Everything but the functors' own verification.
     void checkStructure(const Script& script) const;
     // Each functor's `verify`, depth first in script order.
-    void verifyFunctors(const FunctorContainer& container) const;
+    void verifyFunctors(const Script& script) const;
 
 private:
     void checkFunctor(const Functor& functor, const std::set<const DataHolder*>& outputs) const;
     void checkBinding(const InputPort& port, const std::set<const DataHolder*>& outputs) const;
     void checkRequiredInputs(const Functor& functor) const;
     void checkContents(const ContainerFunctor& container) const;
-    void checkCycles(const FunctorContainer& container) const;
+    void checkCycles(const Script& script) const;
 };
 
 } // namespace VRK

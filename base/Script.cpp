@@ -3,6 +3,7 @@
 #include "base/ContainerFunctor.h"
 #include "base/ContainerFunctorUtils.h"
 #include "base/FactoryFarmManager.h"
+#include "base/FunctorWalk.h"
 #include "base/HookFunctor.h"
 #include "base/LightFunctorScheduler.h"
 #include "base/LightRunGuard.h"
@@ -21,30 +22,16 @@ namespace {
 
 const char* const RunVerifierName = "NonIntrusiveScriptVerifier";
 
-Functor* findIn(const FunctorContainer& container, const std::string& alias)
-{
-    for (const auto& functor : container.getFunctors()) {
-        if (functor->getAlias() == alias)
-            return functor.get();
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            if (Functor* found = findIn(*inner, alias))
-                return found;
-    }
-    return nullptr;
-}
-
 // Empties every port inside `container`, feedback ports and internal ports included.
 void emptyPorts(const FunctorContainer& container)
 {
-    for (const auto& functor : container.getFunctors()) {
-        functor->resetOutputPortData(false);
-        functor->resetInputPortData(true);
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get())) {
+    FunctorWalk::forEach(container, [](Functor& functor) {
+        functor.resetOutputPortData(false);
+        functor.resetInputPortData(true);
+        if (const ContainerFunctor* inner = functor.asContainer())
             for (const auto& port : inner->getInternalOutputPorts())
                 port->resetData();
-            emptyPorts(*inner);
-        }
-    }
+    });
 }
 
 // Whether every output of `functor`, internal ones included, holds data (and it has one).
@@ -53,7 +40,7 @@ bool hasProduced(const Functor& functor)
     std::vector<const DataHolder*> outputs;
     for (const auto& port : functor.getOutputPorts())
         outputs.push_back(port.get());
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+    if (const ContainerFunctor* container = functor.asContainer())
         for (const auto& port : container->getInternalOutputPorts())
             outputs.push_back(port.get());
     return !outputs.empty() && std::all_of(outputs.begin(), outputs.end(),
@@ -67,7 +54,7 @@ std::vector<const InputPort*> pulledInputs(const Functor& functor)
     std::vector<const InputPort*> inputs;
     for (const auto& port : functor.getInputPorts())
         inputs.push_back(port.get());
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+    if (const ContainerFunctor* container = functor.asContainer())
         for (const auto& inner : container->getFunctors())
             if (dynamic_cast<const HookFunctor*>(inner.get()))
                 for (const auto& port : inner->getInputPorts())
@@ -141,7 +128,9 @@ void Script::runLight(Functor* functor)
 
 Functor* Script::findFunctorByAlias(const std::string& alias) const
 {
-    return alias.empty() ? nullptr : findIn(*this, alias);
+    if (alias.empty())
+        return nullptr;
+    return FunctorWalk::find(*this, [&](Functor& functor) { return functor.getAlias() == alias; });
 }
 
 } // namespace VRK

@@ -7,6 +7,7 @@
 #include "base/FactoryFarmManager.h"
 #include "base/FileException.h"
 #include "base/FunctorUpdates.h"
+#include "base/FunctorWalk.h"
 #include "base/NameUtils.h"
 #include "base/PortScope.h"
 #include "base/Properties.h"
@@ -72,20 +73,10 @@ ScriptWritingPlan::ScriptWritingPlan(const Script& script, const Options& option
     assignAliases();
 }
 
-void ScriptWritingPlan::forEachFunctor(const FunctorContainer& container,
-                                       const std::function<void(const Functor&)>& visit)
-{
-    for (const auto& functor : container.getFunctors()) {
-        visit(*functor);
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            forEachFunctor(*inner, visit);
-    }
-}
-
 void ScriptWritingPlan::check(const std::string& filename) const
 {
     std::set<const Functor*> functors;
-    forEachFunctor(script_, [&](const Functor& functor) { functors.insert(&functor); });
+    FunctorWalk::forEach(script_, [&](const Functor& functor) { functors.insert(&functor); });
     auto writers = FactoryFarmManager::Instance().getDataWriterFactory();
     auto refuse = [&](const std::string& reason) {
         ExceptionUtils::raise<FileException>("The script cannot be written to \"" + filename
@@ -93,7 +84,7 @@ void ScriptWritingPlan::check(const std::string& filename) const
     };
     checkPropertyNames(script_.getProperties(), refuse);
     std::set<std::string> aliases;
-    forEachFunctor(script_, [&](const Functor& functor) {
+    FunctorWalk::forEach(script_, [&](const Functor& functor) {
         const std::string& alias = functor.getAlias();
         if (!alias.empty() && !NameUtils::isValidName(alias))
             refuse("the alias \"" + alias + "\" is not an identifier.");
@@ -139,13 +130,13 @@ void ScriptWritingPlan::assignAliases()
 {
     std::set<const Functor*> referenced;
     std::set<std::string> taken;
-    forEachFunctor(script_, [&](const Functor& functor) {
+    FunctorWalk::forEach(script_, [&](const Functor& functor) {
         taken.insert(functor.getAlias());
         for (const InputPort* port : PortScope::getAllInputs(functor))
             if (isWrittenBinding(*port))
                 referenced.insert(peerOwner(*port));
     });
-    forEachFunctor(script_, [&](const Functor& functor) {
+    FunctorWalk::forEach(script_, [&](const Functor& functor) {
         const bool isReferenced = referenced.count(&functor) != 0;
         if (!functor.getAlias().empty() && (options_.writeAllAliases || isReferenced)) {
             aliases_[&functor] = functor.getAlias();

@@ -51,10 +51,6 @@ public:
     // where seventeen digits allow it (100 rather than 1e+02).
     static std::string getValueText(const InputPort& port);
 
-    // Every functor in `container`, depth first, in script order.
-    static void forEachFunctor(const FunctorContainer& container,
-                               const std::function<void(const Functor&)>& visit);
-
 private:
     void assignAliases();
     void checkPropertyNames(const Properties& properties,

@@ -2,6 +2,7 @@
 
 #include "base/BaseType.h"
 #include "base/ContainerFunctor.h"
+#include "base/FunctorWalk.h"
 
 namespace VRK {
 
@@ -22,7 +23,8 @@ OutputPort* WorkdirBinding::findImplicitPeer(const InputPort& port)
         return nullptr;
     for (FunctorContainer* container = port.getOwner()->getContainer(); container;
          container = container->getParentContainer()) {
-        auto* enclosing = dynamic_cast<ContainerFunctor*>(container);
+        Functor* owner = container->asFunctor();
+        ContainerFunctor* enclosing = owner ? owner->asContainer() : nullptr;
         if (!enclosing)
             continue;
         if (OutputPort* output = enclosing->getInternalOutputPort(WorkdirPortName))
@@ -38,14 +40,12 @@ bool WorkdirBinding::isImplicitlyBound(const InputPort& port)
 
 void WorkdirBinding::bindAll(const FunctorContainer& container)
 {
-    for (const auto& functor : container.getFunctors()) {
-        for (const auto& port : functor->getInputPorts())
+    FunctorWalk::forEach(container, [](const Functor& functor) {
+        for (const auto& port : functor.getInputPorts())
             if (!port->isBound())
                 if (OutputPort* peer = findImplicitPeer(*port))
                     port->bind(peer);
-        if (auto* inner = dynamic_cast<const ContainerFunctor*>(functor.get()))
-            bindAll(*inner);
-    }
+    });
 }
 
 } // namespace VRK

@@ -1,0 +1,25 @@
+#ifndef VRK_BASE_FUNCTORWALK_H
+#define VRK_BASE_FUNCTORWALK_H
+
+#include <functional>
+
+namespace VRK {
+
+class Functor;
+class FunctorContainer;
+
+// The one depth-first walk over the functors inside a container: every depth, script
+// order, each functor before its contents. It keeps its own stack, so a script nests as
+// deep as memory allows rather than as deep as the call stack does.
+class FunctorWalk {
+public:
+    static void forEach(const FunctorContainer& container,
+                        const std::function<void(Functor&)>& visit);
+    // The first functor of the walk for which `match` holds; none when no functor does.
+    static Functor* find(const FunctorContainer& container,
+                         const std::function<bool(Functor&)>& match);
+};
+
+} // namespace VRK
+
+#endif
