@@ -1,6 +1,5 @@
 #include "base/ContainerFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
 #include "base/FactoryFarmManager.h"
 
 namespace VRK {
@@ -126,7 +125,17 @@ bool ContainerFunctor::isCompatible(Functor* functor) const
     return true;
 }
 
-void ContainerFunctor::runContainerImpl() { ContainerFunctorUtils::runFunctorsInContainer(*this); }
+namespace {
+ContainerFunctor::ContentsRunner contentsRunner = nullptr;
+}
+
+void ContainerFunctor::setContentsRunner(ContentsRunner runner) { contentsRunner = runner; }
+
+void ContainerFunctor::runContainerImpl()
+{
+    assert(contentsRunner && "the run engine provides the contents runner when it loads");
+    contentsRunner(*this);
+}
 
 void ContainerFunctor::addInternalOutputPort(const std::string& name,
                                              const std::string& description,

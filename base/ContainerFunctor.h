@@ -33,6 +33,11 @@ public:
     virtual bool isCompatible(Functor* functor) const;
     virtual void runContainerImpl();
 
+    // How the contents of every container run, one pass: the run engine provides it when
+    // the host library loads, so that the functor graph knows nothing of schedulers.
+    using ContentsRunner = void (*)(const ContainerFunctor& container);
+    static void setContentsRunner(ContentsRunner runner);
+
     Functor* asFunctor() override { return this; }
     const Functor* asFunctor() const override { return this; }
 

@@ -41,6 +41,16 @@ void runPassAlone(const FunctorContainer& container, LogTag tag)
     ContainerFunctorUtils::runPass(container, tag);
 }
 
+// Containers run their contents through this engine's pass.
+struct ContentsRunnerInstaller {
+    ContentsRunnerInstaller()
+    {
+        ContainerFunctor::setContentsRunner([](const ContainerFunctor& container) {
+            ContainerFunctorUtils::runFunctorsInContainer(container);
+        });
+    }
+} contentsRunnerInstaller;
+
 } // namespace
 
 void ContainerFunctorUtils::runFunctorsInContainer(const ContainerFunctor& container, LogTag tag)
