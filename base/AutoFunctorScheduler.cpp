@@ -1,8 +1,9 @@
 #include "base/AutoFunctorScheduler.h"
 
+#include "base/FunctorDependencies.h"
+#include "base/ParallelPass.h"
 #include "base/ProcessorManager.h"
 
-#include <algorithm>
 #include <cassert>
 #include <chrono>
 
@@ -20,11 +21,7 @@ const double SlowPassSeconds = 0.001;
 
 void AutoFunctorScheduler::scheduleImpl()
 {
-    schedule_ = std::make_unique<Schedule>();
-    schedule_->schedule(*getContainer(), getLogTag());
-    const auto& containers = schedule_->getContainers();
-    holdsContainer_ = std::any_of(containers.begin(), containers.end(),
-                                  [](const ContainerFunctor* container) { return container; });
+    schedule_ = PassSchedule(FunctorDependencies(*getContainer()));
     lastPassSeconds_ = 0;
 }
 
@@ -32,32 +29,28 @@ void AutoFunctorScheduler::scheduleImpl()
 bool AutoFunctorScheduler::isWorthParallel() const
 {
     return ProcessorManager::Instance().getEffectiveProcessorCount() > 1
-           && schedule_->hasIndependentFunctors()
-           && (holdsContainer_ || lastPassSeconds_ >= SlowPassSeconds);
+           && schedule_.hasIndependentFunctors()
+           && (schedule_.holdsContainer() || lastPassSeconds_ >= SlowPassSeconds);
 }
 
 void AutoFunctorScheduler::runImpl()
 {
-    assert(schedule_ != 0 && "schedule() before run()");
     if (isWorthParallel()) {
-        schedule_->runInParallel();
+        ParallelPass(schedule_, getLogTag()).run();
         return;
     }
     const auto start = std::chrono::steady_clock::now();
-    schedule_->runSequentially();
+    schedule_.runInOrder(getLogTag());
     lastPassSeconds_ =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 Functor* AutoFunctorScheduler::getScheduledFunctorImpl(size_t index)
 {
-    assert(schedule_ != 0 && "schedule() before getScheduledFunctor()");
-    return schedule_->getScheduled(index);
+    assert(index < schedule_.size() && "index < getScheduledFunctorCount()");
+    return schedule_.getOrder()[index];
 }
 
-size_t AutoFunctorScheduler::getScheduledFunctorCountImpl()
-{
-    return schedule_ ? schedule_->getScheduledCount() : 0;
-}
+size_t AutoFunctorScheduler::getScheduledFunctorCountImpl() { return schedule_.size(); }
 
 } // namespace VRK

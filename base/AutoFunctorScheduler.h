@@ -1,9 +1,8 @@
 #ifndef VRK_BASE_AUTOFUNCTORSCHEDULER_H
 #define VRK_BASE_AUTOFUNCTORSCHEDULER_H
 
-#include "base/ParallelFunctorScheduler.h"
-
-#include <memory>
+#include "base/FunctorScheduler.h"
+#include "base/PassSchedule.h"
 
 namespace VRK {
 
@@ -26,21 +25,9 @@ protected:
     size_t getScheduledFunctorCountImpl() override;
 
 private:
-    // Parallel and sequential runs of the same schedule.
-    class Schedule : public ParallelFunctorScheduler {
-    public:
-        using ParallelFunctorScheduler::getContainers;
-        using ParallelFunctorScheduler::hasIndependentFunctors;
-        void runSequentially() { SequentialFunctorScheduler::runImpl(); }
-        void runInParallel() { ParallelFunctorScheduler::runImpl(); }
-        Functor* getScheduled(size_t index) { return getScheduledFunctorImpl(index); }
-        size_t getScheduledCount() { return getScheduledFunctorCountImpl(); }
-    };
-
     bool isWorthParallel() const;
 
-    std::unique_ptr<Schedule> schedule_;
-    bool holdsContainer_ = false;
+    PassSchedule schedule_;
     double lastPassSeconds_ = 0;
 };
 

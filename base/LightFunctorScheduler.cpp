@@ -55,7 +55,7 @@ void LightFunctorScheduler::scheduleImpl()
     } else if (target_ && !isTargetOrInside(getContainer(), target_)) {
         selected.assign(functors.size(), true);
     }
-    scheduleSelected(dependencies, selected);
+    setSchedule(PassSchedule(dependencies, selected));
 }
 
 void LightFunctorScheduler::runImpl() { SequentialFunctorScheduler::runImpl(); }

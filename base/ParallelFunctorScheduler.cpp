@@ -15,11 +15,11 @@ ParallelFunctorScheduler::~ParallelFunctorScheduler() = default;
 
 void ParallelFunctorScheduler::runImpl()
 {
-    if (!hasIndependentFunctors()) {
-        SequentialFunctorScheduler::runImpl();
+    if (!getSchedule().hasIndependentFunctors()) {
+        getSchedule().runInOrder(getLogTag());
         return;
     }
-    ParallelPass pass(getOrder(), getContainers(), getWaits(), getLogTag());
+    ParallelPass pass(getSchedule(), getLogTag());
     pass.run();
 }
 

@@ -3,19 +3,19 @@
 #include "base/ContainerFunctorUtils.h"
 #include "base/Logger.h"
 #include "base/LoggerInitializer.h"
+#include "base/PassSchedule.h"
 #include "base/RunContext.h"
 #include "base/Task.h"
 
 namespace VRK {
 
-ParallelPass::ParallelPass(const std::vector<Functor*>& order,
-                           const std::vector<ContainerFunctor*>& containers,
-                           const std::vector<std::vector<size_t>>& waits, LogTag tag)
-    : order_(order), containers_(containers), tag_(tag), remaining_(order.size()),
-      successors_(order.size()), context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
-      filter_(Logger::getCurrentThreadLogger()->getMainFilter())
+ParallelPass::ParallelPass(const PassSchedule& schedule, LogTag tag)
+    : order_(schedule.getOrder()), containers_(schedule.getContainers()), tag_(tag),
+      remaining_(schedule.size()), successors_(schedule.size()), context_(RunContext::getCurrent()),
+      task_(Task::getCurrentTask()), filter_(Logger::getCurrentThreadLogger()->getMainFilter())
 {
-    for (size_t position = 0; position < order.size(); ++position) {
+    const auto& waits = schedule.getWaits();
+    for (size_t position = 0; position < schedule.size(); ++position) {
         remaining_[position] = waits[position].size();
         for (size_t waited : waits[position])
             successors_[waited].push_back(position);

@@ -16,6 +16,7 @@ namespace VRK {
 class ContainerFunctor;
 class Functor;
 class LogFilter;
+class PassSchedule;
 class RunContext;
 class Task;
 
@@ -25,11 +26,7 @@ class Task;
 // failure no further functor starts; `run` then throws the first error, whatever it is.
 class ParallelPass {
 public:
-    // `order` lists the functors, `containers` each one as a container or none, and
-    // `waits` for each the positions in `order` of those it waits for.
-    ParallelPass(const std::vector<Functor*>& order,
-                 const std::vector<ContainerFunctor*>& containers,
-                 const std::vector<std::vector<size_t>>& waits, LogTag tag);
+    ParallelPass(const PassSchedule& schedule, LogTag tag);
     ~ParallelPass();
     ParallelPass(const ParallelPass&) = delete;
     ParallelPass& operator=(const ParallelPass&) = delete;
