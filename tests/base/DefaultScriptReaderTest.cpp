@@ -1,9 +1,9 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/ContainerFunctor.h"
-#include "base/DefaultScriptReader.h"
-#include "base/ParseError.h"
-#include "base/Propertiable.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/parse/ParseError.h"
+#include "base/script/text/DefaultScriptReader.h"
+#include "base/util/Propertiable.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-using ScriptTestKit::readText;
+using VRK::Testing::readText;
 
 VRK::ContainerFunctor& containerAt(const VRK::FunctorContainer& container, size_t index)
 {
@@ -146,7 +146,7 @@ TEST(DefaultScriptReader, ReportsEachMistakeWithItsLineAndColumn)
 
 TEST(DefaultScriptReader, ReadsOnlyTheHeadPropertiesWhenAskedForProperties)
 {
-    ScriptTestKit::registerAll();
+    VRK::Testing::registerScriptTestKit();
     VRK::Script script;
     std::istringstream in("@title = \"T\";\n@author = \"A\";\n"
                           "Nothing at all; @late = \"L\";");

@@ -1,10 +1,10 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/AtomicFileWriter.h"
-#include "base/ContainerFunctor.h"
-#include "base/DefaultScriptWriter.h"
-#include "base/Exception.h"
-#include "base/ScriptFiles.h"
+#include "base/error/Exception.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/script/AtomicFileWriter.h"
+#include "base/script/ScriptFiles.h"
+#include "base/script/text/DefaultScriptWriter.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -14,8 +14,8 @@
 
 namespace {
 
-using ScriptTestKit::readText;
-using ScriptTestKit::writeText;
+using VRK::Testing::readText;
+using VRK::Testing::writeText;
 
 std::string rewrite(const std::string& text) { return writeText(*readText(text)); }
 

@@ -1,19 +1,20 @@
 #include "tests/base/EngineTestKit.h"
 
-#include "base/AutoFunctorScheduler.h"
-#include "base/ExceptionUtils.h"
-#include "base/FactoryFarmManager.h"
-#include "base/LightFunctorScheduler.h"
-#include "base/Logger.h"
-#include "base/ParallelFunctorScheduler.h"
-#include "base/NonIntrusiveScriptVerifier.h"
-#include "base/SequentialFunctorScheduler.h"
-#include "base/Task.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/log/Logger.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/run/AutoFunctorScheduler.h"
+#include "base/run/LightFunctorScheduler.h"
+#include "base/run/ParallelFunctorScheduler.h"
+#include "base/run/SequentialFunctorScheduler.h"
+#include "base/task/Task.h"
+#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 #include <chrono>
 #include <sstream>
 
-namespace EngineTestKit {
+namespace VRK {
+namespace Testing {
 
 namespace {
 
@@ -263,4 +264,5 @@ void bind(VRK::Functor& reader, const std::string& port, VRK::Functor& writer,
     input->bind(peer);
 }
 
-} // namespace EngineTestKit
+} // namespace Testing
+} // namespace VRK

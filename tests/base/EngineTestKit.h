@@ -4,15 +4,15 @@
 // Small functors for testing how the host runs scripts: they record what they see in
 // a journal that the tests read. Scripts are built in code, without any reader.
 
-#include "base/ContainerFunctor.h"
-#include "base/Data.h"
-#include "base/FeedbackStrongInputPort.h"
-#include "base/HookFunctor.h"
-#include "base/NullType.h"
-#include "base/RuntimeException.h"
-#include "base/Script.h"
-#include "base/StrongInputPort.h"
-#include "base/TypeShim.h"
+#include "base/data/Data.h"
+#include "base/data/NullType.h"
+#include "base/data/TypeShim.h"
+#include "base/error/RuntimeException.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/graph/FeedbackStrongInputPort.h"
+#include "base/graph/HookFunctor.h"
+#include "base/graph/StrongInputPort.h"
+#include "base/script/Script.h"
 
 #include <condition_variable>
 #include <memory>
@@ -20,7 +20,8 @@
 #include <string>
 #include <vector>
 
-namespace EngineTestKit {
+namespace VRK {
+namespace Testing {
 
 using NumberData = VRK::Data<double, VRK::NullType, VRK::NullType>;
 
@@ -159,6 +160,7 @@ T& add(VRK::FunctorContainer& container, const std::string& alias, Arguments... 
 void bind(VRK::Functor& reader, const std::string& port, VRK::Functor& writer,
           const std::string& output = "value");
 
-} // namespace EngineTestKit
+} // namespace Testing
+} // namespace VRK
 
 #endif

@@ -1,7 +1,7 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/Functor.h"
-#include "base/GraphvizScriptWriter.h"
+#include "base/graph/Functor.h"
+#include "base/script/dot/GraphvizScriptWriter.h"
 #include "tests/support/ScriptText.h"
 
 #include <boost/filesystem.hpp>
@@ -17,7 +17,7 @@ namespace fs = boost::filesystem;
 
 namespace {
 
-using ScriptTestKit::readText;
+using VRK::Testing::readText;
 
 // A functor whose banner needs quoting in a graph.
 class Bannered : public VRK::Functor {

@@ -1,17 +1,17 @@
 #include "tests/base/EngineTestKit.h"
 #include "tests/support/LogCapture.h"
 
-#include "base/GraphException.h"
-#include "base/LightFunctorScheduler.h"
-#include "base/SequentialFunctorScheduler.h"
-#include "base/Task.h"
-#include "base/TaskCancellation.h"
+#include "base/error/GraphException.h"
+#include "base/run/LightFunctorScheduler.h"
+#include "base/run/SequentialFunctorScheduler.h"
+#include "base/task/Task.h"
+#include "base/task/TaskCancellation.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-using namespace EngineTestKit;
+using namespace VRK::Testing;
 
 namespace {
 

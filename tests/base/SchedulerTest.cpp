@@ -1,20 +1,20 @@
 #include "tests/base/EngineTestKit.h"
 #include "tests/support/LogCapture.h"
 
-#include "base/AutoFunctorScheduler.h"
-#include "base/LightFunctorScheduler.h"
-#include "base/ParallelFunctorScheduler.h"
-#include "base/ProcessorManager.h"
-#include "base/SequentialFunctorScheduler.h"
-#include "base/Task.h"
-#include "base/TaskCancellation.h"
+#include "base/run/AutoFunctorScheduler.h"
+#include "base/run/LightFunctorScheduler.h"
+#include "base/run/ParallelFunctorScheduler.h"
+#include "base/task/ProcessorManager.h"
+#include "base/run/SequentialFunctorScheduler.h"
+#include "base/task/Task.h"
+#include "base/task/TaskCancellation.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
 
-using namespace EngineTestKit;
+using namespace VRK::Testing;
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/DefaultWizardReader.h"
-#include "base/DefaultWizardWriter.h"
-#include "base/ParseError.h"
-#include "base/ScriptParameters.h"
+#include "base/parse/ParseError.h"
+#include "base/script/ScriptParameters.h"
+#include "base/script/text/DefaultWizardReader.h"
+#include "base/script/text/DefaultWizardWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -76,12 +76,12 @@ TEST(DefaultWizardWriter, WritesWhatTheReaderReadsBack)
 
 TEST(ScriptParameters, SetTheValuesOfAliasedFunctors)
 {
-    auto script = ScriptTestKit::readText("n := TestSource constant = 1;\n"
+    auto script = VRK::Testing::readText("n := TestSource constant = 1;\n"
                                           "s := TestSink value = n.object;\n"
                                           "t := TestTextSource constant = \"a\";");
     VRK::ScriptParameters::apply(*script, readParameters("n.constant = 5; s.title = \"T\";"));
     VRK::ScriptParameters::apply(*script, VRK::ScriptParameters::parseAssignment("t.constant=\"b c\""));
-    EXPECT_EQ(ScriptTestKit::writeText(*script), "n := TestSource constant = 5;\n"
+    EXPECT_EQ(VRK::Testing::writeText(*script), "n := TestSource constant = 5;\n"
                                                  "TestSink value = n.object label = \"T\";\n"
                                                  "TestTextSource constant = \"b c\";\n");
 

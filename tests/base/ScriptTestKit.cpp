@@ -1,21 +1,21 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/ContainerFunctor.h"
-#include "base/DataEditor.h"
-#include "base/DataException.h"
-#include "base/DataReader.h"
-#include "base/DataWriter.h"
-#include "base/DefaultScriptReader.h"
-#include "base/DefaultScriptWriter.h"
-#include "base/FactoryFarmManager.h"
-#include "base/FeedbackStrongInputPort.h"
-#include "base/IllegalDataException.h"
-#include "base/NullType.h"
-#include "base/PrimData.h"
-#include "base/ScannerTypes.h"
-#include "base/StrongInputPort.h"
-#include "base/TransducedAssertiveParser.h"
-#include "base/TypeShim.h"
+#include "base/data/DataEditor.h"
+#include "base/data/DataReader.h"
+#include "base/data/DataWriter.h"
+#include "base/data/NullType.h"
+#include "base/data/PrimData.h"
+#include "base/data/TypeShim.h"
+#include "base/error/DataException.h"
+#include "base/error/IllegalDataException.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/graph/FeedbackStrongInputPort.h"
+#include "base/graph/StrongInputPort.h"
+#include "base/parse/ScannerTypes.h"
+#include "base/parse/TransducedAssertiveParser.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/script/text/DefaultScriptReader.h"
+#include "base/script/text/DefaultScriptWriter.h"
 #include "tests/support/ScriptText.h"
 
 #include <boost/spirit/include/classic_symbols.hpp>
@@ -23,7 +23,8 @@
 #include <mutex>
 #include <sstream>
 
-namespace ScriptTestKit {
+namespace VRK {
+namespace Testing {
 
 namespace {
 
@@ -306,7 +307,7 @@ void registerValue(const std::string& typeName)
 
 } // namespace
 
-void registerAll()
+void registerScriptTestKit()
 {
     static std::once_flag once;
     std::call_once(once, [] {
@@ -334,7 +335,7 @@ void registerAll()
 
 std::shared_ptr<VRK::Script> readText(const std::string& text)
 {
-    registerAll();
+    registerScriptTestKit();
     return VRK::Testing::readScriptText<VRK::DefaultScriptReader>(text, "test.vrk");
 }
 
@@ -343,4 +344,5 @@ std::string writeText(VRK::Script& script)
     return VRK::Testing::writeScriptText<VRK::DefaultScriptWriter>(script, "test.vrk");
 }
 
-} // namespace ScriptTestKit
+} // namespace Testing
+} // namespace VRK

@@ -23,21 +23,23 @@
 //   TestPrepared    no ports; its verify fails unless it was prepared
 // "TestBlock" is an alias of "TestBox".
 
-#include "base/Script.h"
+#include "base/script/Script.h"
 
 #include <memory>
 #include <string>
 
-namespace ScriptTestKit {
+namespace VRK {
+namespace Testing {
 
 // Registers everything once per process.
-void registerAll();
+void registerScriptTestKit();
 
 // Reads `text` as a ".vrk" script named "test.vrk".
 std::shared_ptr<VRK::Script> readText(const std::string& text);
 // Writes with the default text writer.
 std::string writeText(VRK::Script& script);
 
-} // namespace ScriptTestKit
+} // namespace Testing
+} // namespace VRK
 
 #endif

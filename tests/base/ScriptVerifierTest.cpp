@@ -1,19 +1,19 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/ContainerFunctor.h"
-#include "base/DataException.h"
-#include "base/FactoryFarmManager.h"
-#include "base/GraphException.h"
-#include "base/IntrusiveScriptVerifier.h"
-#include "base/NonIntrusiveScriptVerifier.h"
-#include "base/TypeException.h"
-#include "base/UndefinedNodeException.h"
+#include "base/error/DataException.h"
+#include "base/error/GraphException.h"
+#include "base/error/TypeException.h"
+#include "base/error/UndefinedNodeException.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/verify/IntrusiveScriptVerifier.h"
+#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using ScriptTestKit::readText;
+using VRK::Testing::readText;
 
 // The message of the verifier's first complaint, checked to be of class E and located
 // at line:column.

@@ -1,11 +1,11 @@
 #include "tests/base/ScriptTestKit.h"
 
-#include "base/ContainerFunctor.h"
-#include "base/FileException.h"
-#include "base/ParseError.h"
-#include "base/Propertiable.h"
-#include "base/XMLScriptReader.h"
-#include "base/XMLScriptWriter.h"
+#include "base/error/FileException.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/parse/ParseError.h"
+#include "base/script/xml/XMLScriptReader.h"
+#include "base/script/xml/XMLScriptWriter.h"
+#include "base/util/Propertiable.h"
 #include "tests/support/ScriptText.h"
 
 #include <gtest/gtest.h>
@@ -14,12 +14,12 @@
 
 namespace {
 
-using ScriptTestKit::readText;
-using ScriptTestKit::writeText;
+using VRK::Testing::readText;
+using VRK::Testing::writeText;
 
 std::shared_ptr<VRK::Script> readXML(const std::string& text)
 {
-    ScriptTestKit::registerAll();
+    VRK::Testing::registerScriptTestKit();
     return VRK::Testing::readScriptText<VRK::XMLScriptReader>(text, "test.xml");
 }
 
@@ -213,7 +213,7 @@ TEST(XMLScriptReader, RefusesDocumentTypesSoNoEntityIsEverExpanded)
 
 TEST(XMLScriptReader, ReadingPropertiesOnlyCreatesNoFunctor)
 {
-    ScriptTestKit::registerAll();
+    VRK::Testing::registerScriptTestKit();
     VRK::Script script;
     std::istringstream in("<script>\n"
                           "  <property name=\"title\" value=\"T\"/>\n"

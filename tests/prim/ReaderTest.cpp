@@ -34,8 +34,8 @@
 namespace {
 
 using namespace Prim;
-using PrimTest::ValueReading;
-using PrimTest::ValueScan;
+using VRK::Testing::ValueReading;
+using VRK::Testing::ValueScan;
 
 std::set<int> elementsOf(const IntSetEditor& editor)
 {

@@ -1,7 +1,7 @@
-#include "base/DataWriter.h"
-#include "base/FactoryFarm.h"
-#include "base/Plugin.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataWriter.h"
+#include "base/parse/ScannerTypes.h"
+#include "base/plugin/FactoryFarm.h"
+#include "base/plugin/Plugin.h"
 #include "plugins/prim/DoubleEditor.h"
 #include "plugins/prim/PercentEditor.h"
 #include "tests/prim/ValueScan.h"
@@ -23,7 +23,7 @@ extern "C" void registerPrimPlugin(VRK::Plugin& plugin);
 
 namespace {
 
-using PrimTest::ValueScan;
+using VRK::Testing::ValueScan;
 
 std::uint64_t bitsOf(double value)
 {

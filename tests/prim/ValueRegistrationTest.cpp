@@ -1,7 +1,7 @@
-#include "base/DataWriter.h"
-#include "base/FactoryFarm.h"
-#include "base/Plugin.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataWriter.h"
+#include "base/plugin/FactoryFarm.h"
+#include "base/plugin/Plugin.h"
+#include "base/parse/ScannerTypes.h"
 #include "plugins/prim/IntSetEditor.h"
 #include "plugins/prim/LogTagEditor.h"
 #include "tests/prim/ValueScan.h"
@@ -99,7 +99,7 @@ TEST_F(ValueRegistrationTest, CreatedByTypeName)
     std::unique_ptr<VRK::DataReader<VRK::ScriptScanner>> reader(
         farm_.getDataReaderFactory<VRK::ScriptScanner>(VRK::ScriptScannerName)
             ->create("IntSet", &set));
-    PrimTest::ValueScan<VRK::ScriptScanner> scan("[ 4 /* four */, 2 ]");
+    VRK::Testing::ValueScan<VRK::ScriptScanner> scan("[ 4 /* four */, 2 ]");
     reader->read(scan.scanner());
     std::unique_ptr<VRK::DataWriter> writer(farm_.getDataWriterFactory()->create("IntSet", &set));
     std::ostringstream out;
@@ -109,7 +109,7 @@ TEST_F(ValueRegistrationTest, CreatedByTypeName)
     Prim::LogTagEditor tag;
     auto plain = farm_.getDataReaderFactory<VRK::PlainScanner>(VRK::PlainScannerName);
     std::unique_ptr<VRK::DataReader<VRK::PlainScanner>> plainReader(plain->create("LogTag", &tag));
-    PrimTest::ValueScan<VRK::PlainScanner> plainScan(" .warning");
+    VRK::Testing::ValueScan<VRK::PlainScanner> plainScan(" .warning");
     plainReader->read(plainScan.scanner());
     EXPECT_EQ(tag.getLogTag(), VRK::warning);
 }

@@ -1,18 +1,19 @@
-#ifndef TESTS_PRIM_VALUESCAN_H
-#define TESTS_PRIM_VALUESCAN_H
+#ifndef VRK_TESTS_PRIM_VALUESCAN_H
+#define VRK_TESTS_PRIM_VALUESCAN_H
 
-#include "base/DataReader.h"
-#include "base/DefaultSkipGrammar.h"
-#include "base/ParseError.h"
-#include "base/PlainTextOrigin.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataReader.h"
+#include "base/parse/DefaultSkipGrammar.h"
+#include "base/parse/ParseError.h"
+#include "base/parse/PlainTextOrigin.h"
+#include "base/parse/ScannerTypes.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-namespace PrimTest {
+namespace VRK {
+namespace Testing {
 
 // A text under one of the two scanners that value readers are built for, so that one
 // case can be run through both: what a reader consumed, and what it left.
@@ -115,6 +116,7 @@ public:
     }
 };
 
-} // namespace PrimTest
+} // namespace Testing
+} // namespace VRK
 
 #endif

@@ -1,4 +1,4 @@
-#include "base/DirectoryStack.h"
+#include "base/util/DirectoryStack.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/BoolReader.h"
 #include "plugins/prim/BoolWriter.h"
@@ -60,7 +60,7 @@ std::string written(const VRK::DataEditor& editor)
 // Values written and read back, through each scanner: what a script writer and a
 // script reader do to every literal.
 template <class ScannerT>
-class WriterTest : public ::testing::Test, public PrimTest::ValueReading<ScannerT> {
+class WriterTest : public ::testing::Test, public VRK::Testing::ValueReading<ScannerT> {
 protected:
     // Writes `from` and reads the text into `to`; returns what the reader left.
     template <class WriterT, template <class> class ReaderT>
