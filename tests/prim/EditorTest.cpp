@@ -1,8 +1,8 @@
-#include "base/BaseType.h"
-#include "base/DataViewer.h"
-#include "base/FactoryFarmManager.h"
-#include "base/IllegalDataException.h"
-#include "base/Plugin.h"
+#include "base/data/BaseType.h"
+#include "base/data/DataViewer.h"
+#include "base/error/IllegalDataException.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/Plugin.h"
 #include "plugins/prim/BoolData.h"
 #include "plugins/prim/DoubleData.h"
 #include "plugins/prim/IntData.h"
@@ -50,50 +50,40 @@ std::string printed(const VRK::Stringable& object)
 }
 
 void expectHolder(const VRK::DataHolder& holder, const std::string& name,
-                  const std::string& description, const std::string& typeName)
+                  const std::string& typeName)
 {
     EXPECT_EQ(holder.getName(), name);
-    EXPECT_EQ(holder.getDescription(), description);
     ASSERT_NE(holder.getType(), nullptr) << name;
     EXPECT_EQ(holder.getType()->getName(), typeName) << name;
 }
 
 } // namespace
 
-TEST(Editors, NamesDescriptionsAndTypes)
+TEST(Editors, NamesAndTypes)
 {
-    expectHolder(Prim::BoolEditor(), "BoolEditor", "Editor for Bool values", "Bool");
-    expectHolder(Prim::DoubleEditor(), "DoubleEditor", "Editor used to edit/create real values.",
-                 "Double");
-    expectHolder(Prim::IntEditor(), "IntEditor", "Editor for Int values", "Int");
-    expectHolder(Prim::NonNegativeIntEditor(), "NonNegativeIntEditor",
-                 "Editor for non-negative integer values", "NonNegativeInt");
-    expectHolder(Prim::PositiveIntEditor(), "PositiveIntEditor",
-                 "Editor for positive integer values", "PositiveInt");
-    expectHolder(Prim::PercentEditor(), "PercentEditor", "Editor for percentual values", "Percent");
-    expectHolder(Prim::LogTagEditor(), "LogTagEditor", "Editor for LogTag values", "LogTag");
-    expectHolder(Prim::StringEditor(), "StringEditor", "Editor for String values", "String");
-    expectHolder(Prim::NameEditor(), "NameEditor", "Editor used to edit/create names.", "Name");
-    expectHolder(Prim::PathEditor(), "PathEditor", "Editor for file paths", "Path");
-    expectHolder(Prim::IntSetEditor(), "IntSetEditor", "Editor used to edit/create integer sets",
-                 "IntSet");
+    expectHolder(Prim::BoolEditor(), "BoolEditor", "Bool");
+    expectHolder(Prim::DoubleEditor(), "DoubleEditor", "Double");
+    expectHolder(Prim::IntEditor(), "IntEditor", "Int");
+    expectHolder(Prim::NonNegativeIntEditor(), "NonNegativeIntEditor", "NonNegativeInt");
+    expectHolder(Prim::PositiveIntEditor(), "PositiveIntEditor", "PositiveInt");
+    expectHolder(Prim::PercentEditor(), "PercentEditor", "Percent");
+    expectHolder(Prim::LogTagEditor(), "LogTagEditor", "LogTag");
+    expectHolder(Prim::StringEditor(), "StringEditor", "String");
+    expectHolder(Prim::NameEditor(), "NameEditor", "Name");
+    expectHolder(Prim::PathEditor(), "PathEditor", "Path");
+    expectHolder(Prim::IntSetEditor(), "IntSetEditor", "IntSet");
 
-    expectHolder(Prim::BoolViewer(), "BoolViewer", "Viewer for Bool values", "Bool");
-    expectHolder(Prim::DoubleViewer(), "DoubleViewer", "Viewer used to inspect real values.",
-                 "Double");
-    expectHolder(Prim::IntViewer(), "IntViewer", "Viewer for Int values", "Int");
-    expectHolder(Prim::NonNegativeIntViewer(), "NonNegativeIntViewer",
-                 "Viewer for non-negative integer values", "NonNegativeInt");
-    expectHolder(Prim::PositiveIntViewer(), "PositiveIntViewer",
-                 "Viewer for positive integer values", "PositiveInt");
-    expectHolder(Prim::PercentViewer(), "PercentViewer", "Viewer for inspecting percent values",
-                 "Percent");
-    expectHolder(Prim::LogTagViewer(), "LogTagViewer", "Viewer for LogTag values", "LogTag");
-    expectHolder(Prim::StringViewer(), "StringViewer", "Viewer for String values", "String");
-    expectHolder(Prim::NameViewer(), "NameViewer", "Viewer for names", "Name");
-    expectHolder(Prim::PathViewer(), "PathViewer", "Viewer for file paths", "Path");
-    expectHolder(Prim::IntSetViewer(), "IntSetViewer", "Viewer for inspecting integer sets",
-                 "IntSet");
+    expectHolder(Prim::BoolViewer(), "BoolViewer", "Bool");
+    expectHolder(Prim::DoubleViewer(), "DoubleViewer", "Double");
+    expectHolder(Prim::IntViewer(), "IntViewer", "Int");
+    expectHolder(Prim::NonNegativeIntViewer(), "NonNegativeIntViewer", "NonNegativeInt");
+    expectHolder(Prim::PositiveIntViewer(), "PositiveIntViewer", "PositiveInt");
+    expectHolder(Prim::PercentViewer(), "PercentViewer", "Percent");
+    expectHolder(Prim::LogTagViewer(), "LogTagViewer", "LogTag");
+    expectHolder(Prim::StringViewer(), "StringViewer", "String");
+    expectHolder(Prim::NameViewer(), "NameViewer", "Name");
+    expectHolder(Prim::PathViewer(), "PathViewer", "Path");
+    expectHolder(Prim::IntSetViewer(), "IntSetViewer", "IntSet");
 }
 
 TEST(Editors, DefaultsAreThoseAFreshValueShows)

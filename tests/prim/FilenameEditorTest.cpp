@@ -1,6 +1,6 @@
-#include "base/ContainerFunctor.h"
-#include "base/IllegalDataException.h"
-#include "base/Script.h"
+#include "base/error/IllegalDataException.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/script/Script.h"
 #include "plugins/prim/FolderData.h"
 #include "plugins/prim/FolderType.h"
 #include "plugins/prim/WorkdirData.h"
@@ -84,7 +84,6 @@ TEST(FolderEditor, IdentityAndAcceptedExtensions)
 {
     Prim::FolderEditor editor;
     EXPECT_EQ(editor.getName(), "FolderEditor");
-    EXPECT_EQ(editor.getDescription(), "Editor for folders");
     EXPECT_EQ(editor.getType(), Prim::FolderType::getInstance());
     EXPECT_EQ(editor.getAlias(), "folder");
     EXPECT_EQ(editor.getDefaultFilename(), "");
@@ -96,7 +95,6 @@ TEST(FolderEditor, IdentityAndAcceptedExtensions)
 
     Prim::FolderViewer viewer;
     EXPECT_EQ(viewer.getName(), "FolderViewer");
-    EXPECT_EQ(viewer.getDescription(), "Viewer for inspecting folders");
 }
 
 TEST(FolderEditor, SetsNormalisesPrintsAndPacks)

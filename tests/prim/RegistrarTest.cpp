@@ -1,17 +1,20 @@
+#include "plugins/prim/FolderFunctor.h"
+#include "plugins/prim/IntSetFunctor.h"
 #include "plugins/prim/PrimRegistrar.h"
+#include "plugins/prim/ValueJunctionFunctor.h"
 
-#include "base/ContainerFunctor.h"
-#include "base/DataConverter.h"
-#include "base/FactoryFarmManager.h"
-#include "base/ScannerTypes.h"
-#include "base/Script.h"
+#include "base/data/DataConverter.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/parse/ScannerTypes.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/script/Script.h"
 #include "tests/support/LogCapture.h"
-
-#include <gtest/gtest.h>
-
 #include "tests/support/PrimRegistration.h"
 
 #include <boost/spirit/include/classic_symbols.hpp>
+
+#include <gtest/gtest.h>
+
 namespace {
 
 using VRK::Testing::LogCapture;
@@ -140,6 +143,21 @@ TEST(PrimRegistrar, NothingIsLoggedBelowDebugAndEntriesStillRegister)
     EXPECT_TRUE(registrar.registerData<ProbeData>());
     EXPECT_TRUE(capture.lines().empty());
     EXPECT_TRUE(farm.getFunctorFactory()->isRegistered("Probe"));
+}
+
+// The names scripts used before a functor was renamed build the renamed class.
+TEST(PrimRegistrar, ThePluginsOldNamesBuildTheSameClasses)
+{
+    VRK::Testing::registerPrimOnce();
+    auto factory = VRK::FactoryFarmManager::Instance().getFunctorFactory();
+    EXPECT_NE(dynamic_cast<Prim::IntSet*>(factory->create("IntList").get()), nullptr);
+    EXPECT_NE(dynamic_cast<Prim::ValueJunction*>(factory->create("JoinDouble").get()), nullptr);
+    EXPECT_NE(dynamic_cast<Prim::ValueJunction*>(factory->create("JoinValue").get()), nullptr);
+    // The clone factory copies a carrier as its own class.
+    auto folder = factory->create("Folder");
+    auto copy = VRK::FactoryFarmManager::Instance().getFunctorCloneFactory()->create(*folder);
+    EXPECT_NE(dynamic_cast<Prim::Folder*>(copy.get()), nullptr);
+    EXPECT_TRUE(copy->getFlag(8));
 }
 
 TEST(CloneFactories, CopyByRunTimeClass)

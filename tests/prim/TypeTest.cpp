@@ -1,66 +1,22 @@
-#include "base/Functor.h"
-#include "plugins/prim/BoolType.h"
+#include "base/graph/Functor.h"
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/FolderType.h"
-#include "plugins/prim/IntSetType.h"
 #include "plugins/prim/IntType.h"
 #include "plugins/prim/LogTagType.h"
 #include "plugins/prim/MultiplexerType.h"
 #include "plugins/prim/NameType.h"
-#include "plugins/prim/NamedValueRegistratorType.h"
 #include "plugins/prim/NonNegativeIntType.h"
-#include "plugins/prim/NumberedFolderRegistratorType.h"
-#include "plugins/prim/NumberedPathRegistratorType.h"
-#include "plugins/prim/NumberedStringRegistratorType.h"
-#include "plugins/prim/NumberedValueRegistratorType.h"
-#include "plugins/prim/PathType.h"
 #include "plugins/prim/PercentType.h"
 #include "plugins/prim/PositiveIntType.h"
-#include "plugins/prim/PrimTypes.h"
 #include "plugins/prim/StringType.h"
 #include "plugins/prim/WorkdirType.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <map>
-#include <typeinfo>
+#include <memory>
+#include <string>
 
 namespace {
-
-struct Expected {
-    std::string description;
-    std::string parent;
-};
-
-const std::map<std::string, Expected>& catalogue()
-{
-    static const std::map<std::string, Expected> types = {
-        {"Bool", {"Boolean", ""}},
-        {"Double", {"Double precision real", ""}},
-        {"Int", {"Integer", "Double"}},
-        {"PositiveInt", {"Positive integer", "Int"}},
-        {"NonNegativeInt", {"Non-negative integer", "PositiveInt"}},
-        {"Percent", {"Percentual value", "Double"}},
-        {"IntSet", {"Type of integer sets", ""}},
-        {"String", {"String", ""}},
-        {"Name", {"Name", "String"}},
-        {"Path", {"File path", ""}},
-        {"Folder", {"Folder", ""}},
-        {"Workdir", {"Work directory", ""}},
-        {"LogTag", {"LogTag", ""}},
-        {"NamedValueRegistrator", {"Functors with named value registration capabilities", ""}},
-        {"NumberedValueRegistrator",
-         {"Functors with numbered value registration capabilities", ""}},
-        {"NumberedFolderRegistrator",
-         {"Functors with numbered folder registration capabilities", ""}},
-        {"NumberedPathRegistrator", {"Functors with numbered path registration capabilities", ""}},
-        {"NumberedStringRegistrator",
-         {"Functors with numbered string registration capabilities", ""}},
-        {"Multiplexer", {"Functors with multiplexing capabilities", ""}},
-    };
-    return types;
-}
 
 // A functor whose inputs are fed by its own outputs, to see what a port makes of the
 // data that a binding brings.
@@ -78,20 +34,6 @@ public:
 };
 
 } // namespace
-
-TEST(Types, CatalogueNamesDescriptionsAndParents)
-{
-    Prim::PrimTypes::instantiateAll();
-    std::map<std::string, const VRK::BaseType*> listed;
-    for (const VRK::BaseType* type : VRK::BaseType::getAllTypes())
-        listed[type->getName()] = type;
-    for (const auto& [name, expected] : catalogue()) {
-        ASSERT_EQ(listed.count(name), 1u) << name << " is not listed";
-        const VRK::BaseType* type = listed[name];
-        EXPECT_EQ(type->getDescription(), expected.description) << name;
-        EXPECT_EQ(type->getParent() ? type->getParent()->getName() : "", expected.parent) << name;
-    }
-}
 
 TEST(Types, SingletonsAndTheParentChain)
 {
