@@ -1,18 +1,26 @@
 #include "tests/base/EngineTestKit.h"
 #include "tests/support/LogCapture.h"
 
+#include "base/error/ExceptionUtils.h"
 #include "base/run/AutoFunctorScheduler.h"
 #include "base/run/LightFunctorScheduler.h"
 #include "base/run/ParallelFunctorScheduler.h"
-#include "base/task/ProcessorManager.h"
+#include "base/run/RunContext.h"
 #include "base/run/SequentialFunctorScheduler.h"
+#include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "base/task/TaskCancellation.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
 
 using namespace VRK::Testing;
 
@@ -50,6 +58,69 @@ void buildWideScript(VRK::Script& script)
     auto& last = add<Probe>(script, "last");
     bind(last, "value", next, "sum");
 }
+
+// What a failing functor and its partner share to be sure they run at the same time.
+struct Rendezvous {
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool partnerRunning = false;
+};
+
+// Fails once its partner is running (or after five seconds without it), so that the
+// failure falls in the middle of a parallel pass.
+class FailingBesidePartner : public VRK::Functor {
+public:
+    explicit FailingBesidePartner(Rendezvous* rendezvous)
+        : Functor("FailingBesidePartner", "Fails while its partner runs", nullptr),
+          rendezvous_(rendezvous)
+    {
+    }
+    void runImpl() override
+    {
+        std::unique_lock<std::mutex> lock(rendezvous_->mutex);
+        rendezvous_->changed.wait_for(lock, std::chrono::seconds(5),
+                                      [this] { return rendezvous_->partnerRunning; });
+        lock.unlock();
+        VRK::ExceptionUtils::raise<VRK::RuntimeException>("The functor failed on purpose.");
+    }
+
+private:
+    Rendezvous* rendezvous_;
+};
+
+// Runs until the run has noted a failure, then publishes "value" for the functors
+// waiting for it; journals whether it saw the failure while it ran.
+class PartnerOutlivingFailure : public VRK::Functor {
+public:
+    explicit PartnerOutlivingFailure(Rendezvous* rendezvous)
+        : Functor("PartnerOutlivingFailure", "Runs through its partner's failure", nullptr),
+          rendezvous_(rendezvous)
+    {
+        addOutputPort("value", "Published after the failure", NumberType::getInstance());
+    }
+    void runImpl() override
+    {
+        {
+            std::lock_guard<std::mutex> lock(rendezvous_->mutex);
+            rendezvous_->partnerRunning = true;
+        }
+        rendezvous_->changed.notify_all();
+        VRK::RunContext* context = VRK::RunContext::getCurrent();
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+        while (context && !context->getFailedFunctor()
+               && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        const bool failed = context && context->getFailedFunctor();
+        // The run notes the failure before the exception has left the failing functor's
+        // worker; the pass learns of it a moment later.
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        Journal::add(getAlias() + (failed ? " outlived the failure" : " saw no failure"));
+        setOutputPortValue<NumberData>("value", 1.0);
+    }
+
+private:
+    Rendezvous* rendezvous_;
+};
 
 class Schedulers : public ::testing::Test {
 protected:
@@ -124,7 +195,7 @@ TEST_F(Schedulers, AutomaticRunsSmallPlainFunctorsOneAfterTheOther)
     EXPECT_EQ(entries[0].rfind("alone", 0), 0u) << entries[0];
 }
 
-TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)
+TEST_F(Schedulers, NothingWaitingForAFailedFunctorRuns)
 {
     for (const auto& scheduler : everyScheduler()) {
         VRK::Script script;
@@ -135,6 +206,33 @@ TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)
         EXPECT_THROW(script.run(task, *scheduler), VRK::RuntimeException);
         EXPECT_EQ(script.getFailedFunctor(), &failing);
         EXPECT_EQ(Journal::take(), std::vector<std::string>{"f"});
+    }
+}
+
+// A failing functor and a partner that runs beside it, through the failure, and only
+// then lets the functors waiting for it start. None of them depends on the failing
+// functor: only the failure itself may keep them from starting.
+TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)
+{
+    for (bool automatic : {false, true}) {
+        Rendezvous rendezvous;
+        VRK::Script script;
+        auto& failing = add<FailingBesidePartner>(script, "f", &rendezvous);
+        auto& partner = add<PartnerOutlivingFailure>(script, "partner", &rendezvous);
+        for (int index = 1; index <= 8; ++index)
+            bind(add<Probe>(script, "p" + std::to_string(index)), "value", partner);
+        if (automatic) {
+            // The automatic scheduler goes parallel only when a container repays the pool.
+            add<Loop>(script, "box", 1);
+            EXPECT_THROW(script.run(task, VRK::AutoFunctorScheduler()), VRK::RuntimeException);
+        } else {
+            EXPECT_THROW(script.run(task, VRK::ParallelFunctorScheduler()), VRK::RuntimeException);
+        }
+        EXPECT_EQ(script.getFailedFunctor(), &failing);
+        // "partner saw no failure" means the two did not run at once: the pass was not
+        // parallel. Any probe in the journal started after the failure.
+        EXPECT_EQ(Journal::take(), std::vector<std::string>{"partner outlived the failure"})
+            << (automatic ? "automatic" : "parallel");
     }
 }
 
