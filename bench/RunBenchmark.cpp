@@ -4,17 +4,17 @@
 // the automatic scheduler next to the sequential one. After the runs the program prints the ratios,
 // all measured in this one run.
 
-#include "base/AutoFunctorScheduler.h"
-#include "base/DefaultScriptReader.h"
-#include "base/FactoryFarmManager.h"
-#include "base/LogFilterHigherTags.h"
-#include "base/Logger.h"
-#include "base/ParallelFunctorScheduler.h"
-#include "base/Plugin.h"
-#include "base/ProcessorManager.h"
-#include "base/Script.h"
-#include "base/SequentialFunctorScheduler.h"
-#include "base/Task.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/log/Logger.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/Plugin.h"
+#include "base/run/AutoFunctorScheduler.h"
+#include "base/run/ParallelFunctorScheduler.h"
+#include "base/run/SequentialFunctorScheduler.h"
+#include "base/script/Script.h"
+#include "base/script/text/DefaultScriptReader.h"
+#include "base/task/ProcessorManager.h"
+#include "base/task/Task.h"
 #include "bench/RecordingReporter.h"
 
 #include <benchmark/benchmark.h>

@@ -3,15 +3,15 @@
 // runs the program prints how many times the bare parse each format's reading and
 // writing takes, all measured in this one run.
 
-#include "base/DefaultScriptReader.h"
-#include "base/DefaultScriptWriter.h"
-#include "base/FactoryFarmManager.h"
-#include "base/LogFilterHigherTags.h"
-#include "base/Logger.h"
-#include "base/Plugin.h"
-#include "base/Script.h"
-#include "base/XMLScriptReader.h"
-#include "base/XMLScriptWriter.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/log/Logger.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/Plugin.h"
+#include "base/script/Script.h"
+#include "base/script/text/DefaultScriptReader.h"
+#include "base/script/text/DefaultScriptWriter.h"
+#include "base/script/xml/XMLScriptReader.h"
+#include "base/script/xml/XMLScriptWriter.h"
 #include "bench/RecordingReporter.h"
 
 #include <benchmark/benchmark.h>

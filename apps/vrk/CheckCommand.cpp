@@ -2,10 +2,10 @@
 
 #include "apps/vrk/DiagnosticPrinter.h"
 
-#include "base/Exception.h"
-#include "base/NonIntrusiveScriptVerifier.h"
-#include "base/Script.h"
-#include "base/ScriptFiles.h"
+#include "base/error/Exception.h"
+#include "base/script/Script.h"
+#include "base/script/ScriptFiles.h"
+#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 int CheckCommand::run(const std::string& script, std::ostream& out, std::ostream& err)
 {

@@ -2,9 +2,9 @@
 
 #include "apps/vrk/DiagnosticPrinter.h"
 
-#include "base/Exception.h"
-#include "base/Script.h"
-#include "base/ScriptFiles.h"
+#include "base/error/Exception.h"
+#include "base/script/Script.h"
+#include "base/script/ScriptFiles.h"
 
 int ConvertCommand::run(const std::string& in, const std::string& out, std::ostream& err)
 {

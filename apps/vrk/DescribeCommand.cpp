@@ -1,9 +1,9 @@
 #include "apps/vrk/DescribeCommand.h"
 
-#include "base/BaseType.h"
-#include "base/ContainerFunctor.h"
-#include "base/FactoryFarmManager.h"
-#include "base/ScriptWritingPlan.h"
+#include "base/data/BaseType.h"
+#include "base/graph/ContainerFunctor.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/script/ScriptWritingPlan.h"
 
 namespace {
 

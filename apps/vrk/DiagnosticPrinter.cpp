@@ -1,6 +1,6 @@
 #include "apps/vrk/DiagnosticPrinter.h"
 
-#include "base/Exception.h"
+#include "base/error/Exception.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,8 +1,8 @@
 #ifndef VRK_APP_DIAGNOSTICPRINTER_H
 #define VRK_APP_DIAGNOSTICPRINTER_H
 
-#include "base/LineBuffer.h"
-#include "base/ScriptPosition.h"
+#include "base/util/LineBuffer.h"
+#include "base/util/ScriptPosition.h"
 
 #include <map>
 #include <ostream>

@@ -1,8 +1,8 @@
 #include "apps/vrk/HostSession.h"
 
-#include "base/LogFilterHigherTags.h"
-#include "base/Logger.h"
-#include "base/StreamLogSink.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/log/Logger.h"
+#include "base/log/StreamLogSink.h"
 
 #include <iostream>
 #include <memory>

@@ -1,8 +1,8 @@
 #ifndef VRK_APP_HOSTSESSION_H
 #define VRK_APP_HOSTSESSION_H
 
-#include "base/LogTag.h"
-#include "base/PluginLoader.h"
+#include "base/log/LogTag.h"
+#include "base/plugin/PluginLoader.h"
 
 #include <string>
 

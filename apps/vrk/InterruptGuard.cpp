@@ -1,6 +1,6 @@
 #include "apps/vrk/InterruptGuard.h"
 
-#include "base/Task.h"
+#include "base/task/Task.h"
 
 #include <atomic>
 

@@ -1,8 +1,8 @@
 #include "apps/vrk/ListCommand.h"
 
-#include "base/BaseType.h"
-#include "base/FactoryFarmManager.h"
-#include "base/ScannerTypes.h"
+#include "base/data/BaseType.h"
+#include "base/parse/ScannerTypes.h"
+#include "base/plugin/FactoryFarmManager.h"
 
 namespace {
 

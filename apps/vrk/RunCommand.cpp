@@ -3,16 +3,16 @@
 #include "apps/vrk/DiagnosticPrinter.h"
 #include "apps/vrk/InterruptGuard.h"
 
-#include "base/Exception.h"
-#include "base/Functor.h"
-#include "base/FunctorNameUtils.h"
-#include "base/Logger.h"
-#include "base/ProcessorManager.h"
-#include "base/Script.h"
-#include "base/ScriptFiles.h"
-#include "base/ScriptParameters.h"
-#include "base/Task.h"
-#include "base/TaskCancellation.h"
+#include "base/error/Exception.h"
+#include "base/graph/Functor.h"
+#include "base/graph/FunctorNameUtils.h"
+#include "base/log/Logger.h"
+#include "base/script/Script.h"
+#include "base/script/ScriptFiles.h"
+#include "base/script/ScriptParameters.h"
+#include "base/task/ProcessorManager.h"
+#include "base/task/Task.h"
+#include "base/task/TaskCancellation.h"
 
 #include <map>
 #include <memory>

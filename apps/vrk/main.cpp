@@ -5,7 +5,7 @@
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
 
-#include "base/LogTagInfo.h"
+#include "base/log/LogTagInfo.h"
 
 #include <CLI/CLI.hpp>
 

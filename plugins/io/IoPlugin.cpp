@@ -1,6 +1,6 @@
 #include "plugins/prim/PrimRegistrar.h"
 
-#include "base/Plugin.h"
+#include "base/plugin/Plugin.h"
 #include "plugins/io/PrintStringFunctor.h"
 #include "plugins/io/PrintValueFunctor.h"
 

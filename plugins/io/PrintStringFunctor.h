@@ -1,7 +1,7 @@
 #ifndef IO_PRINTSTRINGFUNCTOR_H
 #define IO_PRINTSTRINGFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Io {
 

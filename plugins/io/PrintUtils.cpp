@@ -1,6 +1,6 @@
 #include "plugins/io/PrintUtils.h"
 
-#include "base/Logger.h"
+#include "base/log/Logger.h"
 #include "plugins/prim/StringType.h"
 
 namespace Io {

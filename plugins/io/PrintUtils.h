@@ -1,7 +1,7 @@
 #ifndef IO_PRINTUTILS_H
 #define IO_PRINTUTILS_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 #ifndef IO_PRINTVALUEFUNCTOR_H
 #define IO_PRINTVALUEFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Io {
 

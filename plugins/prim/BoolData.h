@@ -1,7 +1,7 @@
 #ifndef PRIM_BOOLDATA_H
 #define PRIM_BOOLDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/BoolViewer.h"
 

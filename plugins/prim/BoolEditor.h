@@ -1,7 +1,7 @@
 #ifndef PRIM_BOOLEDITOR_H
 #define PRIM_BOOLEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/BoolReader.h"
 
-#include "base/TransducedAssertiveParser.h"
+#include "base/parse/TransducedAssertiveParser.h"
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 

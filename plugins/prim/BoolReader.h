@@ -1,8 +1,8 @@
 #ifndef PRIM_BOOLREADER_H
 #define PRIM_BOOLREADER_H
 
-#include "base/DataReader.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataReader.h"
+#include "base/parse/ScannerTypes.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_BOOLTYPE_H
 #define PRIM_BOOLTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/BoolData.h"
 
 namespace Prim {

@@ -1,7 +1,7 @@
 #ifndef PRIM_BOOLVIEWER_H
 #define PRIM_BOOLVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_BOOLWRITER_H
 #define PRIM_BOOLWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

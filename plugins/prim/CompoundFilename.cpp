@@ -1,8 +1,8 @@
 #include "plugins/prim/CompoundFilename.h"
 
-#include "base/DirectoryStack.h"
-#include "base/Logger.h"
-#include "base/PathUtils.h"
+#include "base/log/Logger.h"
+#include "base/util/DirectoryStack.h"
+#include "base/util/PathUtils.h"
 #include "plugins/prim/PathEditor.h"
 
 #include <sstream>

@@ -1,7 +1,7 @@
 #ifndef PRIM_COMPOUNDFILENAME_H
 #define PRIM_COMPOUNDFILENAME_H
 
-#include "base/Stringable.h"
+#include "base/util/Stringable.h"
 
 #include <boost/filesystem/path.hpp>
 #include <boost/optional.hpp>

@@ -1,8 +1,8 @@
 #ifndef PRIM_CONTROLLOG_H
 #define PRIM_CONTROLLOG_H
 
-#include "base/LogTag.h"
-#include "base/Logger.h"
+#include "base/log/LogTag.h"
+#include "base/log/Logger.h"
 
 #include <sstream>
 

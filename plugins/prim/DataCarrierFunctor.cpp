@@ -1,6 +1,6 @@
 #include "plugins/prim/DataCarrierFunctor.h"
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 #include <cassert>
 #include <sstream>

@@ -1,7 +1,7 @@
 #ifndef PRIM_DATACARRIERFUNCTOR_H
 #define PRIM_DATACARRIERFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 #include <memory>
 #include <string>

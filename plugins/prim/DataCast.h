@@ -1,7 +1,7 @@
 #ifndef PRIM_DATACAST_H
 #define PRIM_DATACAST_H
 
-#include "base/BaseData.h"
+#include "base/data/BaseData.h"
 
 #include <cassert>
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/DoWhileFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
+#include "base/run/ContainerFunctorUtils.h"
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/LoopUtils.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_DOWHILEFUNCTOR_H
 #define PRIM_DOWHILEFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_DOUBLEDATA_H
 #define PRIM_DOUBLEDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/DoubleEditor.h"
 #include "plugins/prim/DoubleViewer.h"
 

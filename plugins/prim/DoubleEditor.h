@@ -1,7 +1,7 @@
 #ifndef PRIM_DOUBLEEDITOR_H
 #define PRIM_DOUBLEEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

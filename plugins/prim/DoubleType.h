@@ -1,7 +1,7 @@
 #ifndef PRIM_DOUBLETYPE_H
 #define PRIM_DOUBLETYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleData.h"
 
 namespace Prim {

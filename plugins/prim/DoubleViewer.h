@@ -1,7 +1,7 @@
 #ifndef PRIM_DOUBLEVIEWER_H
 #define PRIM_DOUBLEVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_DOUBLEWRITER_H
 #define PRIM_DOUBLEWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,8 +1,8 @@
 #ifndef PRIM_EDITORCHECKUTILS_H
 #define PRIM_EDITORCHECKUTILS_H
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
 
 #include <sstream>
 

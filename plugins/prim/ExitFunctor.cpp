@@ -1,6 +1,6 @@
 #include "plugins/prim/ExitFunctor.h"
 
-#include "base/ExecutionAbortedException.h"
+#include "base/error/ExecutionAbortedException.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_EXITFUNCTOR_H
 #define PRIM_EXITFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_FILENAMEBANNEREDFUNCTOR_H
 #define PRIM_FILENAMEBANNEREDFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 #include "plugins/prim/FilenameEditor.h"
 
 #include <cassert>

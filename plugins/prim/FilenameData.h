@@ -1,7 +1,7 @@
 #ifndef PRIM_FILENAMEDATA_H
 #define PRIM_FILENAMEDATA_H
 
-#include "base/BaseData.h"
+#include "base/data/BaseData.h"
 #include "plugins/prim/CompoundFilename.h"
 
 namespace Prim {

@@ -1,7 +1,7 @@
 #ifndef PRIM_FILENAMEEDITOR_H
 #define PRIM_FILENAMEEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 #include "plugins/prim/CompoundFilename.h"
 
 #include <boost/filesystem/path.hpp>

@@ -1,7 +1,7 @@
 #ifndef PRIM_FILENAMEVIEWER_H
 #define PRIM_FILENAMEVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 #include "plugins/prim/CompoundFilename.h"
 
 namespace Prim {

@@ -1,6 +1,6 @@
 #include "plugins/prim/FilenameWriter.h"
 
-#include "base/PathUtils.h"
+#include "base/util/PathUtils.h"
 
 #include "plugins/prim/FilenameEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"

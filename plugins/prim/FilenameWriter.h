@@ -1,7 +1,7 @@
 #ifndef PRIM_FILENAMEWRITER_H
 #define PRIM_FILENAMEWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

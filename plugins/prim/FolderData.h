@@ -1,7 +1,7 @@
 #ifndef PRIM_FOLDERDATA_H
 #define PRIM_FOLDERDATA_H
 
-#include "base/Data.h"
+#include "base/data/Data.h"
 #include "plugins/prim/CompoundFilename.h"
 #include "plugins/prim/FilenameData.h"
 #include "plugins/prim/FolderEditor.h"

@@ -1,7 +1,7 @@
 #ifndef PRIM_FOLDERJUNCTIONFUNCTOR_H
 #define PRIM_FOLDERJUNCTIONFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_FOLDERTYPE_H
 #define PRIM_FOLDERTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/FolderData.h"
 
 namespace Prim {

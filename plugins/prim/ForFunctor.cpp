@@ -1,6 +1,6 @@
 #include "plugins/prim/ForFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
+#include "base/run/ContainerFunctorUtils.h"
 #include "plugins/prim/ControlLog.h"
 #include "plugins/prim/LoopUtils.h"
 #include "plugins/prim/NonNegativeIntType.h"

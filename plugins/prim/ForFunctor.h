@@ -1,7 +1,7 @@
 #ifndef PRIM_FORFUNCTOR_H
 #define PRIM_FORFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

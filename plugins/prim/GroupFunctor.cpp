@@ -1,6 +1,6 @@
 #include "plugins/prim/GroupFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
+#include "base/run/ContainerFunctorUtils.h"
 #include "plugins/prim/ControlLog.h"
 
 namespace Prim {

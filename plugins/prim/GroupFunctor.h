@@ -1,7 +1,7 @@
 #ifndef PRIM_GROUPFUNCTOR_H
 #define PRIM_GROUPFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

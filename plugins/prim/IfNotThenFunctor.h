@@ -1,7 +1,7 @@
 #ifndef PRIM_IFNOTTHENFUNCTOR_H
 #define PRIM_IFNOTTHENFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

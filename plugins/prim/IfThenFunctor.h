@@ -1,7 +1,7 @@
 #ifndef PRIM_IFTHENFUNCTOR_H
 #define PRIM_IFTHENFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

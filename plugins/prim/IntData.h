@@ -1,7 +1,7 @@
 #ifndef PRIM_INTDATA_H
 #define PRIM_INTDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/DoubleData.h"
 #include "plugins/prim/IntEditor.h"
 #include "plugins/prim/IntViewer.h"

@@ -1,7 +1,7 @@
 #ifndef PRIM_INTEDITOR_H
 #define PRIM_INTEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_INTSETDATA_H
 #define PRIM_INTSETDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/IntSetEditor.h"
 #include "plugins/prim/IntSetViewer.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_INTSETEDITOR_H
 #define PRIM_INTSETEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 #include <cstddef>
 #include <set>

@@ -1,6 +1,6 @@
 #include "plugins/prim/IntSetReader.h"
 
-#include "base/TransducedAssertiveParser.h"
+#include "base/parse/TransducedAssertiveParser.h"
 #include "plugins/prim/IntSetEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 

@@ -1,8 +1,8 @@
 #ifndef PRIM_INTSETREADER_H
 #define PRIM_INTSETREADER_H
 
-#include "base/DataReader.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataReader.h"
+#include "base/parse/ScannerTypes.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_INTSETTYPE_H
 #define PRIM_INTSETTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/IntSetData.h"
 
 namespace Prim {

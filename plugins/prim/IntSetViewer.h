@@ -1,7 +1,7 @@
 #ifndef PRIM_INTSETVIEWER_H
 #define PRIM_INTSETVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 #include <cstddef>
 

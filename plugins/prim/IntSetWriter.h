@@ -1,7 +1,7 @@
 #ifndef PRIM_INTSETWRITER_H
 #define PRIM_INTSETWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

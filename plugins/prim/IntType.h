@@ -1,8 +1,7 @@
 #ifndef PRIM_INTTYPE_H
 #define PRIM_INTTYPE_H
 
-#include "base/TypeShim.h"
-#include "plugins/prim/IntData.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"
 
 namespace Prim {

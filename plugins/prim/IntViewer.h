@@ -1,7 +1,7 @@
 #ifndef PRIM_INTVIEWER_H
 #define PRIM_INTVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

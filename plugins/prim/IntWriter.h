@@ -1,7 +1,7 @@
 #ifndef PRIM_INTWRITER_H
 #define PRIM_INTWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

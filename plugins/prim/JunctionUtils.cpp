@@ -1,7 +1,7 @@
 #include "plugins/prim/JunctionUtils.h"
 
-#include "base/Logger.h"
-#include "base/StrongInputPort.h"
+#include "base/graph/StrongInputPort.h"
+#include "base/log/Logger.h"
 
 #include <memory>
 #include <sstream>

@@ -1,7 +1,7 @@
 #ifndef PRIM_JUNCTIONUTILS_H
 #define PRIM_JUNCTIONUTILS_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 #include <memory>
 #include <string>

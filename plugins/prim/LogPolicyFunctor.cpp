@@ -1,7 +1,7 @@
 #include "plugins/prim/LogPolicyFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
-#include "base/LogFilterHigherTags.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/run/ContainerFunctorUtils.h"
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/ControlLog.h"
 #include "plugins/prim/LogTagEditor.h"

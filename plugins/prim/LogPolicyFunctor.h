@@ -1,7 +1,7 @@
 #ifndef PRIM_LOGPOLICYFUNCTOR_H
 #define PRIM_LOGPOLICYFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

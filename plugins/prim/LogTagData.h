@@ -1,11 +1,11 @@
 #ifndef PRIM_LOGTAGDATA_H
 #define PRIM_LOGTAGDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/LogTagEditor.h"
 #include "plugins/prim/LogTagViewer.h"
 
-#include "base/LogTag.h"
+#include "base/log/LogTag.h"
 
 namespace Prim {
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/LogTagEditor.h"
 
-#include "base/LogTagInfo.h"
+#include "base/log/LogTagInfo.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/LogTagType.h"
 

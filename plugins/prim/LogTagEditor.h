@@ -1,8 +1,8 @@
 #ifndef PRIM_LOGTAGEDITOR_H
 #define PRIM_LOGTAGEDITOR_H
 
-#include "base/DataEditor.h"
-#include "base/LogTag.h"
+#include "base/data/DataEditor.h"
+#include "base/log/LogTag.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #include "plugins/prim/LogTagReader.h"
 
-#include "base/LogTagInfo.h"
-#include "base/TransducedAssertiveParser.h"
+#include "base/log/LogTagInfo.h"
+#include "base/parse/TransducedAssertiveParser.h"
 #include "plugins/prim/LogTagEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 

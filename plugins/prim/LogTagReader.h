@@ -1,8 +1,8 @@
 #ifndef PRIM_LOGTAGREADER_H
 #define PRIM_LOGTAGREADER_H
 
-#include "base/DataReader.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataReader.h"
+#include "base/parse/ScannerTypes.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 

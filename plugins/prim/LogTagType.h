@@ -1,7 +1,7 @@
 #ifndef PRIM_LOGTAGTYPE_H
 #define PRIM_LOGTAGTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/LogTagData.h"
 
 namespace Prim {

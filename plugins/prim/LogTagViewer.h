@@ -1,7 +1,7 @@
 #ifndef PRIM_LOGTAGVIEWER_H
 #define PRIM_LOGTAGVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/LogTagWriter.h"
 
-#include "base/LogTagInfo.h"
+#include "base/log/LogTagInfo.h"
 #include "plugins/prim/LogTagEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_LOGTAGWRITER_H
 #define PRIM_LOGTAGWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

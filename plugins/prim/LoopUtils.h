@@ -1,7 +1,7 @@
 #ifndef PRIM_LOOPUTILS_H
 #define PRIM_LOOPUTILS_H
 
-#include "base/Task.h"
+#include "base/task/Task.h"
 #include "plugins/prim/ControlLog.h"
 
 namespace Prim {

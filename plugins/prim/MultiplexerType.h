@@ -1,7 +1,7 @@
 #ifndef PRIM_MULTIPLEXERTYPE_H
 #define PRIM_MULTIPLEXERTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

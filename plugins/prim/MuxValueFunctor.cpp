@@ -1,7 +1,7 @@
 #include "plugins/prim/MuxValueFunctor.h"
 
-#include "base/FeedbackStrongInputPort.h"
-#include "base/Singleton.h"
+#include "base/graph/FeedbackStrongInputPort.h"
+#include "base/util/Singleton.h"
 #include "plugins/prim/ControlLog.h"
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/MultiplexerType.h"

@@ -1,7 +1,7 @@
 #ifndef PRIM_MUXVALUEFUNCTOR_H
 #define PRIM_MUXVALUEFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,8 +1,8 @@
 #include "plugins/prim/NameEditor.h"
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
-#include "base/NameUtils.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
+#include "base/util/NameUtils.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/NameType.h"
 

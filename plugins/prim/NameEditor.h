@@ -1,7 +1,7 @@
 #ifndef PRIM_NAMEEDITOR_H
 #define PRIM_NAMEEDITOR_H
 
-#include "base/BaseNameEditor.h"
+#include "base/data/BaseNameEditor.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NAMETYPE_H
 #define PRIM_NAMETYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/NameData.h"
 #include "plugins/prim/StringType.h"
 

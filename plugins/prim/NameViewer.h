@@ -1,7 +1,7 @@
 #ifndef PRIM_NAMEVIEWER_H
 #define PRIM_NAMEVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 #include <string>
 

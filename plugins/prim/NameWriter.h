@@ -1,7 +1,7 @@
 #ifndef PRIM_NAMEWRITER_H
 #define PRIM_NAMEWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NAMEDVALUEREGISTRATORTYPE_H
 #define PRIM_NAMEDVALUEREGISTRATORTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

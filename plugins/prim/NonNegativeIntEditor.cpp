@@ -1,7 +1,7 @@
 #include "plugins/prim/NonNegativeIntEditor.h"
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/NonNegativeIntType.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NONNEGATIVEINTEDITOR_H
 #define PRIM_NONNEGATIVEINTEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

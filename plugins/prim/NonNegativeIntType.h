@@ -1,7 +1,7 @@
 #ifndef PRIM_NONNEGATIVEINTTYPE_H
 #define PRIM_NONNEGATIVEINTTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/NonNegativeIntData.h"
 #include "plugins/prim/PositiveIntType.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NONNEGATIVEINTVIEWER_H
 #define PRIM_NONNEGATIVEINTVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NONNEGATIVEINTWRITER_H
 #define PRIM_NONNEGATIVEINTWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/NumberReader.h"
 
-#include "base/TransducedAssertiveParser.h"
+#include "base/parse/TransducedAssertiveParser.h"
 #include "plugins/prim/ExactRealParser.h"
 
 #include <type_traits>

@@ -1,8 +1,8 @@
 #ifndef PRIM_NUMBERREADER_H
 #define PRIM_NUMBERREADER_H
 
-#include "base/DataReader.h"
-#include "base/ScannerTypes.h"
+#include "base/data/DataReader.h"
+#include "base/parse/ScannerTypes.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NUMBEREDFOLDERREGISTRATORTYPE_H
 #define PRIM_NUMBEREDFOLDERREGISTRATORTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_NUMBEREDPATHREGISTRATORTYPE_H
 #define PRIM_NUMBEREDPATHREGISTRATORTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

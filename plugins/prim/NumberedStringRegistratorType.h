@@ -1,7 +1,7 @@
 #ifndef PRIM_NUMBEREDSTRINGREGISTRATORTYPE_H
 #define PRIM_NUMBEREDSTRINGREGISTRATORTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

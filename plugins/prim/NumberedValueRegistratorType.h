@@ -1,7 +1,7 @@
 #ifndef PRIM_NUMBEREDVALUEREGISTRATORTYPE_H
 #define PRIM_NUMBEREDVALUEREGISTRATORTYPE_H
 
-#include "base/BaseType.h"
+#include "base/data/BaseType.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PATHDATA_H
 #define PRIM_PATHDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/PathEditor.h"
 #include "plugins/prim/PathViewer.h"
 

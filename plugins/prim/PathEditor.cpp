@@ -1,8 +1,8 @@
 #include "plugins/prim/PathEditor.h"
 
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
-#include "base/PathUtils.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
+#include "base/util/PathUtils.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/PathType.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PATHEDITOR_H
 #define PRIM_PATHEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 #include <boost/filesystem/path.hpp>
 

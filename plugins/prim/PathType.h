@@ -1,7 +1,7 @@
 #ifndef PRIM_PATHTYPE_H
 #define PRIM_PATHTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/PathData.h"
 
 namespace Prim {

@@ -1,7 +1,7 @@
 #ifndef PRIM_PATHVIEWER_H
 #define PRIM_PATHVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 #include <boost/filesystem/path.hpp>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PATHWRITER_H
 #define PRIM_PATHWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PERCENTEDITOR_H
 #define PRIM_PERCENTEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

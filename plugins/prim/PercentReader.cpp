@@ -1,6 +1,6 @@
 #include "plugins/prim/PercentReader.h"
 
-#include "base/TransducedAssertiveParser.h"
+#include "base/parse/TransducedAssertiveParser.h"
 #include "plugins/prim/ExactRealParser.h"
 #include "plugins/prim/PercentEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"

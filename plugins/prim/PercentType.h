@@ -1,8 +1,7 @@
 #ifndef PRIM_PERCENTTYPE_H
 #define PRIM_PERCENTTYPE_H
 
-#include "base/TypeShim.h"
-#include "plugins/prim/PercentData.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"
 
 namespace Prim {

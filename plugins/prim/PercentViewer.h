@@ -1,7 +1,7 @@
 #ifndef PRIM_PERCENTVIEWER_H
 #define PRIM_PERCENTVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PERCENTWRITER_H
 #define PRIM_PERCENTWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_POSITIVEINTEDITOR_H
 #define PRIM_POSITIVEINTEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 namespace Prim {
 

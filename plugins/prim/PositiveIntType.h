@@ -1,8 +1,7 @@
 #ifndef PRIM_POSITIVEINTTYPE_H
 #define PRIM_POSITIVEINTTYPE_H
 
-#include "base/TypeShim.h"
-#include "plugins/prim/PositiveIntData.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/IntType.h"
 
 namespace Prim {

@@ -1,7 +1,7 @@
 #ifndef PRIM_POSITIVEINTVIEWER_H
 #define PRIM_POSITIVEINTVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_POSITIVEINTWRITER_H
 #define PRIM_POSITIVEINTWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PRIMEDITORUTILS_H
 #define PRIM_PRIMEDITORUTILS_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 
 #include <cassert>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_PRIMREADERUTILS_H
 #define PRIM_PRIMREADERUTILS_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
 #include <cassert>

@@ -1,6 +1,6 @@
 #include "plugins/prim/PrimTypes.h"
 
-#include "base/Singleton.h"
+#include "base/util/Singleton.h"
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/FolderType.h"

@@ -1,7 +1,7 @@
 #include "plugins/prim/ProcessorPolicyFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
-#include "base/ProcessorManager.h"
+#include "base/run/ContainerFunctorUtils.h"
+#include "base/task/ProcessorManager.h"
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/ControlLog.h"
 #include "plugins/prim/NonNegativeIntType.h"

@@ -1,7 +1,7 @@
 #ifndef PRIM_PROCESSORPOLICYFUNCTOR_H
 #define PRIM_PROCESSORPOLICYFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #include "plugins/prim/QuotedTextReader.h"
 
-#include "base/StringUtils.h"
-#include "base/TransducedAssertiveParser.h"
+#include "base/parse/TransducedAssertiveParser.h"
+#include "base/util/StringUtils.h"
 
 #include <boost/spirit/include/classic_actor.hpp>
 #include <boost/spirit/include/classic_escape_char.hpp>

@@ -1,7 +1,7 @@
 #ifndef PRIM_REPEATFUNCTOR_H
 #define PRIM_REPEATFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

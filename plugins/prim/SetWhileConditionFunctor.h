@@ -1,7 +1,7 @@
 #ifndef PRIM_SETWHILECONDITIONFUNCTOR_H
 #define PRIM_SETWHILECONDITIONFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #include "plugins/prim/SkipOnErrorFunctor.h"
 
-#include "base/ContainerFunctorUtils.h"
-#include "base/Exception.h"
+#include "base/error/Exception.h"
+#include "base/run/ContainerFunctorUtils.h"
 #include "plugins/prim/ControlLog.h"
 
 #include <new>

@@ -1,7 +1,7 @@
 #ifndef PRIM_SKIPONERRORFUNCTOR_H
 #define PRIM_SKIPONERRORFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_STEPFUNCTOR_H
 #define PRIM_STEPFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGDATA_H
 #define PRIM_STRINGDATA_H
 
-#include "base/PrimData.h"
+#include "base/data/PrimData.h"
 #include "plugins/prim/StringEditor.h"
 #include "plugins/prim/StringViewer.h"
 

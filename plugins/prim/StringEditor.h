@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGEDITOR_H
 #define PRIM_STRINGEDITOR_H
 
-#include "base/DataEditor.h"
+#include "base/data/DataEditor.h"
 #include <string>
 
 namespace Prim {

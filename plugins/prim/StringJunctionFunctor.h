@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGJUNCTIONFUNCTOR_H
 #define PRIM_STRINGJUNCTIONFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

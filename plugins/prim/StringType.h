@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGTYPE_H
 #define PRIM_STRINGTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/StringData.h"
 
 namespace Prim {

@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGVIEWER_H
 #define PRIM_STRINGVIEWER_H
 
-#include "base/DataViewer.h"
+#include "base/data/DataViewer.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "plugins/prim/StringWriter.h"
 
-#include "base/StringUtils.h"
+#include "base/util/StringUtils.h"
 #include "plugins/prim/PrimEditorUtils.h"
 #include "plugins/prim/StringEditor.h"
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_STRINGWRITER_H
 #define PRIM_STRINGWRITER_H
 
-#include "base/DataWriter.h"
+#include "base/data/DataWriter.h"
 
 namespace Prim {
 

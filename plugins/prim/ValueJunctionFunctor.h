@@ -1,7 +1,7 @@
 #ifndef PRIM_VALUEJUNCTIONFUNCTOR_H
 #define PRIM_VALUEJUNCTIONFUNCTOR_H
 
-#include "base/Functor.h"
+#include "base/graph/Functor.h"
 
 namespace Prim {
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_WHILEFUNCTOR_H
 #define PRIM_WHILEFUNCTOR_H
 
-#include "base/ContainerFunctor.h"
+#include "base/graph/ContainerFunctor.h"
 
 namespace Prim {
 

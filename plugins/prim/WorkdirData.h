@@ -1,8 +1,8 @@
 #ifndef PRIM_WORKDIRDATA_H
 #define PRIM_WORKDIRDATA_H
 
-#include "base/Data.h"
-#include "base/NullType.h"
+#include "base/data/Data.h"
+#include "base/data/NullType.h"
 
 #include <boost/filesystem/path.hpp>
 

@@ -1,7 +1,7 @@
 #ifndef PRIM_WORKDIRTYPE_H
 #define PRIM_WORKDIRTYPE_H
 
-#include "base/TypeShim.h"
+#include "base/data/TypeShim.h"
 #include "plugins/prim/WorkdirData.h"
 
 namespace Prim {

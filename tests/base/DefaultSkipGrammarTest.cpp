@@ -1,4 +1,4 @@
-#include "base/DefaultSkipGrammar.h"
+#include "base/parse/DefaultSkipGrammar.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "base/ExceptionUtils.h"
-#include "base/IllegalDataException.h"
-#include "base/LogFilterHigherTags.h"
-#include "base/LogTagInfo.h"
-#include "base/Logger.h"
-#include "base/LoggerInitializer.h"
-#include "base/Trace.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
+#include "base/error/Trace.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/log/LogTagInfo.h"
+#include "base/log/Logger.h"
+#include "base/log/LoggerInitializer.h"
 #include "tests/support/LogCapture.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "base/PluginLoader.h"
+#include "base/plugin/PluginLoader.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>

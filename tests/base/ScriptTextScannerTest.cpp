@@ -1,4 +1,4 @@
-#include "base/ScriptTextScanner.h"
+#include "base/parse/ScriptTextScanner.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "base/ArgumentSplitter.h"
-#include "base/RuntimeException.h"
-#include "base/SystemProcess.h"
-#include "base/Task.h"
+#include "base/error/RuntimeException.h"
+#include "base/task/ArgumentSplitter.h"
+#include "base/task/SystemProcess.h"
+#include "base/task/Task.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "base/DirectoryStack.h"
-#include "base/LineBuffer.h"
-#include "base/NameUtils.h"
-#include "base/PathUtils.h"
-#include "base/Properties.h"
-#include "base/StringUtils.h"
+#include "base/util/DirectoryStack.h"
+#include "base/util/LineBuffer.h"
+#include "base/util/NameUtils.h"
+#include "base/util/PathUtils.h"
+#include "base/util/Properties.h"
+#include "base/util/StringUtils.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -107,8 +107,8 @@ TEST(Properties, KeepOrderAndHonourOverwrite)
     EXPECT_EQ(properties.getAll()[0].first, "comment");
 }
 
-#include "base/PropertyUtils.h"
-#include "base/Propertiable.h"
+#include "base/util/Propertiable.h"
+#include "base/util/PropertyUtils.h"
 
 TEST(PropertyUtils, MapsOldPropertyNamesOnly)
 {

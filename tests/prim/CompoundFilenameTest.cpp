@@ -1,4 +1,4 @@
-#include "base/DirectoryStack.h"
+#include "base/util/DirectoryStack.h"
 #include "plugins/prim/CompoundFilename.h"
 #include "tests/support/LogCapture.h"
 

@@ -15,7 +15,7 @@
 #include "plugins/prim/StringJunctionFunctor.h"
 #include "plugins/prim/ValueJunctionFunctor.h"
 
-#include "base/ExecutionAbortedException.h"
+#include "base/error/ExecutionAbortedException.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PrimRegistration.h"
 

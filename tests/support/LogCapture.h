@@ -1,8 +1,8 @@
 #ifndef VRK_TESTS_LOGCAPTURE_H
 #define VRK_TESTS_LOGCAPTURE_H
 
-#include "base/LogFilterHigherTags.h"
-#include "base/Logger.h"
+#include "base/log/LogFilterHigherTags.h"
+#include "base/log/Logger.h"
 
 #include <memory>
 #include <mutex>

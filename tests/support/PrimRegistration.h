@@ -1,8 +1,8 @@
 #ifndef VRK_TESTS_PRIMREGISTRATION_H
 #define VRK_TESTS_PRIMREGISTRATION_H
 
-#include "base/FactoryFarmManager.h"
-#include "base/Plugin.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/Plugin.h"
 
 #include <mutex>
 

@@ -1,7 +1,7 @@
 #ifndef VRK_TESTS_SCRIPTTEXT_H
 #define VRK_TESTS_SCRIPTTEXT_H
 
-#include "base/Script.h"
+#include "base/script/Script.h"
 
 #include <memory>
 #include <sstream>

@@ -1,7 +1,0 @@
-#include "base/BaseNameEditor.h"
-
-namespace VRK {
-
-BaseNameEditor::~BaseNameEditor() = default;
-
-} // namespace VRK

@@ -1,7 +1,0 @@
-#include "base/Cancellable.h"
-
-namespace VRK {
-
-Cancellable::~Cancellable() = default;
-
-} // namespace VRK

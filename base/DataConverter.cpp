@@ -1,7 +1,0 @@
-#include "base/DataConverter.h"
-
-namespace VRK {
-
-DataConverter::~DataConverter() = default;
-
-} // namespace VRK

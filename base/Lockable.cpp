@@ -1,7 +1,0 @@
-#include "base/Lockable.h"
-
-namespace VRK {
-
-Lockable::~Lockable() = default;
-
-} // namespace VRK

@@ -1,7 +1,0 @@
-#include "base/LogFilter.h"
-
-namespace VRK {
-
-LogFilter::~LogFilter() = default;
-
-} // namespace VRK

@@ -1,7 +1,0 @@
-#include "base/LogSink.h"
-
-namespace VRK {
-
-LogSink::~LogSink() = default;
-
-} // namespace VRK

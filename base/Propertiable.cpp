@@ -1,9 +1,0 @@
-#include "base/Propertiable.h"
-
-namespace VRK {
-
-const char* const FUNCTOR_COMMENT_PROPERTY_NAME = "comment";
-
-Propertiable::~Propertiable() = default;
-
-} // namespace VRK

@@ -1,9 +1,0 @@
-#include "base/Verifiable.h"
-
-namespace VRK {
-
-Verifiable::~Verifiable() = default;
-
-void Verifiable::verify() {}
-
-} // namespace VRK

@@ -1,0 +1,7 @@
+#include "base/data/BaseNameEditor.h"
+
+namespace VRK {
+
+BaseNameEditor::~BaseNameEditor() = default;
+
+} // namespace VRK

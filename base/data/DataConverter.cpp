@@ -1,0 +1,7 @@
+#include "base/data/DataConverter.h"
+
+namespace VRK {
+
+DataConverter::~DataConverter() = default;
+
+} // namespace VRK

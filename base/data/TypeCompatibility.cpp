@@ -1,0 +1,49 @@
+#include "base/data/TypeCompatibility.h"
+
+#include "base/data/BaseType.h"
+#include "base/data/DataConverter.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalTypeException.h"
+#include "base/plugin/DataConverterName.h"
+#include "base/plugin/FactoryFarmManager.h"
+
+namespace VRK {
+
+namespace {
+bool agree(const std::shared_ptr<BaseType>& source, const std::shared_ptr<BaseType>& target)
+{
+    return !source || !target || source->isKindOf(target);
+}
+} // namespace
+
+bool TypeCompatibility::isCompatible(const std::shared_ptr<BaseType>& source,
+                                     const std::shared_ptr<BaseType>& target)
+{
+    return agree(source, target) || findConverter(source, target) != nullptr;
+}
+
+std::shared_ptr<DataConverter> TypeCompatibility::findConverter(
+    const std::shared_ptr<BaseType>& source, const std::shared_ptr<BaseType>& target)
+{
+    auto factory = FactoryFarmManager::Instance().getDataConverterFactory();
+    const DataConverterName name(source->getName(), target->getName());
+    if (!factory->isRegistered(name))
+        return nullptr;
+    return factory->create(name);
+}
+
+std::shared_ptr<const BaseData> TypeCompatibility::adapt(
+    const std::shared_ptr<const BaseData>& data, const std::shared_ptr<BaseType>& source,
+    const std::shared_ptr<BaseType>& target)
+{
+    if (agree(source, target))
+        return data;
+    auto converter = findConverter(source, target);
+    if (!converter)
+        ExceptionUtils::raise<IllegalTypeException>("No converter turns \"" + source->getName()
+                                                    + "\" data into \"" + target->getName()
+                                                    + "\" data.");
+    return std::shared_ptr<const BaseData>(converter->convert(*data));
+}
+
+} // namespace VRK

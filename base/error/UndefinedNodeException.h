@@ -1,0 +1,12 @@
+#ifndef VRK_BASE_UNDEFINEDNODEEXCEPTION_H
+#define VRK_BASE_UNDEFINEDNODEEXCEPTION_H
+
+#include "base/error/GraphException.h"
+
+namespace VRK {
+
+VRK_DECLARE_EXCEPTION(UndefinedNodeException, GraphException)
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,27 @@
+#include "base/graph/FeedbackStrongInputPort.h"
+
+namespace VRK {
+
+FeedbackStrongInputPort::FeedbackStrongInputPort(const std::string& name,
+                                                 const std::string& description,
+                                                 const std::shared_ptr<BaseType>& type)
+    : StrongInputPort(name, description, type)
+{
+}
+
+FeedbackStrongInputPort::~FeedbackStrongInputPort() = default;
+
+std::shared_ptr<InputPort> FeedbackStrongInputPort::clone() const
+{
+    return std::make_shared<FeedbackStrongInputPort>(*this);
+}
+
+void FeedbackStrongInputPort::pullData() {}
+
+void FeedbackStrongInputPort::pullFeedback()
+{
+    if (isBound())
+        StrongInputPort::pullData();
+}
+
+} // namespace VRK

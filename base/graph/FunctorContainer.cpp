@@ -1,0 +1,142 @@
+#include "base/graph/FunctorContainer.h"
+
+#include "base/graph/Functor.h"
+#include "base/plugin/FactoryFarmManager.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace VRK {
+
+FunctorContainer::FunctorIterator::FunctorIterator(std::vector<Functor*> functors)
+    : functors_(std::move(functors))
+{
+}
+
+Functor* FunctorContainer::FunctorIterator::next() const
+{
+    assert(hasNext() && "hasNext()");
+    return functors_[index_++];
+}
+
+bool FunctorContainer::FunctorIterator::hasNext() const { return index_ < functors_.size(); }
+
+FunctorContainer::~FunctorContainer() = default;
+
+Functor* FunctorContainer::createFunctor(const std::string& name, bool notify)
+{
+    std::shared_ptr<Functor> functor =
+        FactoryFarmManager::Instance().getFunctorFactory()->create(name);
+    addFunctor(functor, notify);
+    return functor.get();
+}
+
+void FunctorContainer::transferFunctor(Functor* functor, bool notify)
+{
+    assert(functor != 0 && "functor != 0");
+    FunctorContainer* source = functor->getContainer();
+    assert(source != 0 && "functor->getContainer() != 0");
+    std::shared_ptr<Functor> keep = source->getSharedFunctor(functor);
+    source->eraseFunctor(functor, notify);
+    addFunctor(keep, notify);
+}
+
+void FunctorContainer::addFunctor(const std::shared_ptr<Functor>& functor, bool notify)
+{
+    assert(functor != 0 && "functor != 0");
+    functors_.push_back(functor);
+    functor->setContainer(this);
+    const Functor* self = asFunctor();
+    functor->setLevel(self ? self->getLevel() + 1 : 0);
+    if (!notify)
+        return;
+    functor->onContainerAdded(*this);
+    size_t depth = 1;
+    for (FunctorContainer* outer = getParentContainer(); outer;
+         outer = outer->getParentContainer(), ++depth)
+        functor->onIndirectContainerAdded(*outer, depth);
+}
+
+void FunctorContainer::eraseFunctor(Functor* functor, bool notify)
+{
+    auto position = find(functor);
+    assert(position != functors_.end() && "containsFunctor(functor)");
+    std::shared_ptr<Functor> keep = *position;
+    functors_.erase(position);
+    if (notify)
+        keep->onContainerErased();
+    keep->setContainer(nullptr);
+}
+
+Functor* FunctorContainer::getFunctor(size_t index) const
+{
+    assert(index < functors_.size() && "index < getFunctorCount()");
+    return functors_[index].get();
+}
+
+bool FunctorContainer::containsFunctor(Functor* functor) const
+{
+    return find(functor) != functors_.end();
+}
+
+size_t FunctorContainer::getFunctorCount() const { return functors_.size(); }
+
+void FunctorContainer::reorderFunctor(Functor* functor, int index)
+{
+    auto position = find(functor);
+    assert(position != functors_.end() && "containsFunctor(functor)");
+    assert(index >= 0 && size_t(index) < functors_.size() && "index in range");
+    std::shared_ptr<Functor> keep = *position;
+    functors_.erase(position);
+    functors_.insert(functors_.begin() + index, keep);
+}
+
+void FunctorContainer::releaseFunctor(Functor*& functor)
+{
+    eraseFunctor(functor, true);
+    functor = nullptr;
+}
+
+FunctorContainer::FunctorIterator FunctorContainer::getFunctorIterator() const
+{
+    std::vector<Functor*> functors;
+    for (const auto& functor : functors_)
+        functors.push_back(functor.get());
+    return FunctorIterator(std::move(functors));
+}
+
+void FunctorContainer::clear()
+{
+    while (!functors_.empty())
+        eraseFunctor(functors_.back().get(), true);
+}
+
+Functor* FunctorContainer::copyFunctor(Functor* functor, bool notify)
+{
+    assert(functor != 0 && "functor != 0");
+    std::shared_ptr<Functor> copy =
+        FactoryFarmManager::Instance().getFunctorCloneFactory()->create(*functor);
+    addFunctor(copy, notify);
+    return copy.get();
+}
+
+FunctorContainer* FunctorContainer::getParentContainer() const
+{
+    const Functor* self = asFunctor();
+    return self ? self->getContainer() : nullptr;
+}
+
+std::shared_ptr<Functor> FunctorContainer::getSharedFunctor(const Functor* functor) const
+{
+    auto position = find(functor);
+    return position == functors_.end() ? nullptr : *position;
+}
+
+std::vector<std::shared_ptr<Functor>>::const_iterator
+FunctorContainer::find(const Functor* functor) const
+{
+    return std::find_if(functors_.begin(), functors_.end(),
+                        [&](const auto& candidate) { return candidate.get() == functor; });
+}
+
+} // namespace VRK

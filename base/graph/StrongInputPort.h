@@ -1,0 +1,20 @@
+#ifndef VRK_BASE_STRONGINPUTPORT_H
+#define VRK_BASE_STRONGINPUTPORT_H
+
+#include "base/graph/InputPort.h"
+
+namespace VRK {
+
+// An input that is only ever bound, never typed in: it has no editor.
+class StrongInputPort : public InputPort {
+public:
+    StrongInputPort(const std::string& name, const std::string& description,
+                    const std::shared_ptr<BaseType>& type);
+    ~StrongInputPort() override;
+
+    std::shared_ptr<InputPort> clone() const override;
+};
+
+} // namespace VRK
+
+#endif

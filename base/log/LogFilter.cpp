@@ -1,0 +1,7 @@
+#include "base/log/LogFilter.h"
+
+namespace VRK {
+
+LogFilter::~LogFilter() = default;
+
+} // namespace VRK

@@ -1,0 +1,7 @@
+#include "base/log/LogSink.h"
+
+namespace VRK {
+
+LogSink::~LogSink() = default;
+
+} // namespace VRK

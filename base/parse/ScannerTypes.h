@@ -1,0 +1,37 @@
+#ifndef VRK_BASE_SCANNERTYPES_H
+#define VRK_BASE_SCANNERTYPES_H
+
+#include "base/parse/DefaultSkipGrammar.h"
+#include "base/util/ScriptFileName.h"
+
+#include <boost/spirit/include/classic_core.hpp>
+#include <boost/spirit/include/classic_position_iterator.hpp>
+
+#include <string>
+#include <vector>
+
+namespace VRK {
+
+// The two scanners that value readers are instantiated for.
+
+// Plain: a single value in a C string, white space skipped (values in XML scripts,
+// on the command line and in parameter files).
+using PlainScanner = boost::spirit::classic::phrase_scanner_t;
+
+// Script: text script files, with file positions for diagnostics; skips white space
+// and comments. Positions point at the file name the scanner keeps.
+using ScriptFilePosition = boost::spirit::classic::file_position_base<ScriptFileName>;
+using ScriptIterator =
+    boost::spirit::classic::position_iterator<std::vector<char>::const_iterator, ScriptFilePosition>;
+using ScriptScanner = boost::spirit::classic::scanner<
+    ScriptIterator, boost::spirit::classic::scanner_policies<
+                        boost::spirit::classic::skip_parser_iteration_policy<DefaultSkipGrammar>>>;
+
+// The names under which readers of each scanner are registered; the script readers
+// publish them as their ScannerName.
+inline const std::string ScriptScannerName = "DefaultScriptScanner";
+inline const std::string PlainScannerName = "XMLScriptScanner";
+
+} // namespace VRK
+
+#endif

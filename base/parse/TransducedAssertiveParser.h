@@ -1,0 +1,130 @@
+#ifndef VRK_BASE_TRANSDUCEDASSERTIVEPARSER_H
+#define VRK_BASE_TRANSDUCEDASSERTIVEPARSER_H
+
+#include "base/error/Exception.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/parse/ParseError.h"
+#include "base/parse/PlainTextOrigin.h"
+
+#include <boost/spirit/include/classic_core.hpp>
+#include <boost/spirit/include/classic_position_iterator.hpp>
+
+#include <optional>
+#include <string>
+
+namespace VRK {
+namespace Spirit {
+
+namespace detail {
+
+// Where an iterator stands in its text, in the terms of a ParseError.
+template <class BaseIteratorT, class PositionT, class SelfT>
+ParseError::Position positionOf(
+    const boost::spirit::classic::position_iterator<BaseIteratorT, PositionT, SelfT>& where)
+{
+    const PositionT& position = where.get_position();
+    return ParseError::Position(position.file, position.line, position.column);
+}
+
+inline ParseError::Position positionOf(const char* where)
+{
+    return PlainTextOrigin::positionOf(where);
+}
+
+// Only the plain scanner needs its text's start marked (see PlainTextOrigin); a
+// position iterator carries its own position.
+template <class IteratorT>
+void markOrigin(std::optional<PlainTextOrigin>&, const IteratorT&)
+{
+}
+
+inline void markOrigin(std::optional<PlainTextOrigin>& origin, const char* start)
+{
+    origin.emplace(start);
+}
+
+} // namespace detail
+
+// A parser that must match: wraps the grammar of one value together with the sentence
+// that says what was expected there. Both failures of a value end up as a ParseError
+// located in the text:
+// - the subject does not match: the expectation message, at the place where the value
+//   was expected (after skipping white space and comments);
+// - an action of the subject throws a VRK::Exception (an editor refusing the value):
+//   that exception's message, at the place where the value began.
+// A ParseError from a nested assertive parser passes through unchanged, so the
+// innermost expectation is the one reported.
+template <class SubjectT>
+struct transduced_assertive_parser
+    : public boost::spirit::classic::unary<
+          SubjectT, boost::spirit::classic::parser<transduced_assertive_parser<SubjectT>>> {
+    using self_t = transduced_assertive_parser<SubjectT>;
+    using base_t =
+        boost::spirit::classic::unary<SubjectT, boost::spirit::classic::parser<self_t>>;
+    using parser_category_t = boost::spirit::classic::unary_parser_category;
+
+    transduced_assertive_parser(const SubjectT& subject, const std::string& message)
+        : base_t(subject), message_(message)
+    {
+    }
+
+    template <class ScannerT>
+    struct result {
+        using type = typename boost::spirit::classic::parser_result<SubjectT, ScannerT>::type;
+    };
+
+    template <class ScannerT>
+    typename boost::spirit::classic::parser_result<self_t, ScannerT>::type
+    parse(const ScannerT& scan) const
+    {
+        std::optional<PlainTextOrigin> origin;
+        detail::markOrigin(origin, scan.first);
+        scan.skip(scan);
+        const ParseError::Position entry = detail::positionOf(scan.first);
+        auto hit = parseSubject(scan, entry);
+        if (!hit)
+            raiseAt(message_, entry);
+        return hit;
+    }
+
+    const std::string& getMessage() const { return message_; }
+
+private:
+    template <class ScannerT>
+    typename boost::spirit::classic::parser_result<SubjectT, ScannerT>::type
+    parseSubject(const ScannerT& scan, const ParseError::Position& entry) const
+    {
+        try {
+            return this->subject().parse(scan);
+        } catch (const ParseError&) {
+            throw;
+        } catch (const Exception& refusal) {
+            raiseAt(refusal.getMessage(), entry);
+        }
+    }
+
+    [[noreturn]] static void raiseAt(const std::string& message,
+                                     const ParseError::Position& position)
+    {
+        ParseError error(message, position);
+        ExceptionUtils::logThrow(error);
+        throw error;
+    }
+
+    std::string message_;
+};
+
+// transduced_assertive_p(str_p(".yes") | ".no", "Expecting a truth value.")
+template <class T>
+transduced_assertive_parser<typename boost::spirit::classic::as_parser<T>::type>
+transduced_assertive_p(const T& subject, const std::string& message)
+{
+    using subject_t = typename boost::spirit::classic::as_parser<T>::type;
+    return transduced_assertive_parser<subject_t>(
+        boost::spirit::classic::as_parser<T>::convert(subject), message);
+}
+
+} // namespace Spirit
+} // namespace VRK
+
+#endif

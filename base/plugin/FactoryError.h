@@ -1,0 +1,12 @@
+#ifndef VRK_BASE_FACTORYERROR_H
+#define VRK_BASE_FACTORYERROR_H
+
+#include "base/error/Exception.h"
+
+namespace VRK {
+
+VRK_DECLARE_EXCEPTION(FactoryError, Exception)
+
+} // namespace VRK
+
+#endif

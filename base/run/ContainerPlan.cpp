@@ -1,0 +1,111 @@
+#include "base/run/ContainerPlan.h"
+
+#include "base/graph/ContainerFunctor.h"
+#include "base/graph/FunctorWalk.h"
+#include "base/graph/HookFunctor.h"
+#include "base/run/FunctorScheduler.h"
+
+namespace VRK {
+
+namespace {
+
+// Whether `functor` is `container` or lies inside it.
+bool isWithin(const Functor* functor, const FunctorContainer& container)
+{
+    for (; functor;
+         functor = functor->getContainer() ? functor->getContainer()->asFunctor() : nullptr) {
+        if (functor == container.asFunctor() || functor->getContainer() == &container)
+            return true;
+    }
+    return false;
+}
+
+// The innermost container that holds both the reader of `port` and its peer's producer.
+const FunctorContainer* closingContainer(const InputPort& port)
+{
+    const Functor* producer = port.getPeer()->getOwner();
+    for (const FunctorContainer* container = port.getOwner()->getContainer(); container;
+         container = container->getParentContainer())
+        if (isWithin(producer, *container))
+            return container;
+    return nullptr;
+}
+
+} // namespace
+
+ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler)
+    : container_(container), makeScheduler_(std::move(makeScheduler))
+{
+    for (const auto& functor : container.getFunctors())
+        if (auto* hook = dynamic_cast<HookFunctor*>(functor.get()))
+            hooks_.push_back(hook);
+    collectFeedback(container);
+    if (const ContainerFunctor* owner =
+            container.asFunctor() ? container.asFunctor()->asContainer() : nullptr)
+        for (const auto& port : owner->getInternalInputPorts()) {
+            if (auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get()))
+                internalFeedback_.push_back(feedback);
+            else
+                internalInputs_.push_back(port.get());
+        }
+}
+
+ContainerPlan::~ContainerPlan() = default;
+
+void ContainerPlan::collectFeedback(const FunctorContainer& inner)
+{
+    FunctorWalk::forEach(inner, [&](const Functor& functor) {
+        for (const auto& port : functor.getInputPorts()) {
+            if (!port->isFeedback() || !port->isBound() || closingContainer(*port) != &container_)
+                continue;
+            auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get());
+            assert(feedback != 0 && "feedback != 0");
+            feedback_.push_back(feedback);
+        }
+    });
+}
+
+FunctorScheduler& ContainerPlan::getScheduler(LogTag tag)
+{
+    if (!scheduler_) {
+        scheduler_ = makeScheduler_();
+        assert(scheduler_ != 0 && "scheduler != 0");
+    } else if (tag == scheduledTag_) {
+        return *scheduler_;
+    }
+    scheduler_->schedule(const_cast<FunctorContainer&>(container_), tag);
+    scheduledTag_ = tag;
+    return *scheduler_;
+}
+
+void ContainerPlan::startPass() const
+{
+    for (const auto& functor : container_.getFunctors()) {
+        functor->resetOutputPortData(true);
+        functor->resetInputPortData(false);
+    }
+    for (StrongInputPort* port : internalInputs_)
+        port->resetData();
+}
+
+void ContainerPlan::endPass() const
+{
+    for (HookFunctor* hook : hooks_) {
+        hook->Functor::preparePorts();
+        hook->pullInputs();
+    }
+    for (FeedbackStrongInputPort* port : feedback_)
+        port->pullFeedback();
+    for (StrongInputPort* port : internalInputs_)
+        port->pullData();
+    for (FeedbackStrongInputPort* port : internalFeedback_)
+        port->pullFeedback();
+}
+
+void ContainerPlan::clearFeedback() const
+{
+    for (FeedbackStrongInputPort* port : feedback_)
+        port->resetData();
+}
+
+} // namespace VRK

@@ -1,0 +1,78 @@
+#ifndef VRK_BASE_RUNCONTEXT_H
+#define VRK_BASE_RUNCONTEXT_H
+
+#include "base/run/ContainerPlan.h"
+#include "base/task/Task.h"
+
+#include <memory>
+#include <mutex>
+#include <string>
+#include <unordered_map>
+
+namespace VRK {
+
+class Functor;
+class FunctorScheduler;
+
+// What the threads working on one run share: the task, how the run's schedulers are
+// made, the plan of each container (worked out on its first pass and kept for the
+// run), and the functor whose failure ended the run.
+class RunContext {
+public:
+    using SchedulerMaker = ContainerPlan::SchedulerMaker;
+
+    RunContext(Task& task, SchedulerMaker makeScheduler);
+    ~RunContext();
+    RunContext(const RunContext&) = delete;
+    RunContext& operator=(const RunContext&) = delete;
+
+    // Makes copies of `prototype` through the registered scheduler cloners.
+    static SchedulerMaker cloning(const FunctorScheduler& prototype);
+
+    Task& getTask() const { return task_; }
+
+    // The plan of `container`, made on the first request. Safe from any thread; each
+    // thread remembers the plans it asked for last, so that the passes of a loop do not
+    // all queue for the run's lock.
+    ContainerPlan& getPlan(const FunctorContainer& container);
+
+    // Lays the failure on `functor`, unless the same failure already lies on a functor
+    // inside it (a failure travels outwards through every enclosing container). True
+    // when this call laid it.
+    bool noteFailure(const Functor& functor, const std::string& message);
+    // The innermost functor that failed, if any, and its message.
+    const Functor* getFailedFunctor() const;
+    std::string getFailureMessage() const;
+
+    // The context of the run this thread works on; none outside a run.
+    static RunContext* getCurrent();
+
+    // Makes a context, and its task, current on this thread for the scope's lifetime.
+    class Activation {
+    public:
+        explicit Activation(RunContext& context);
+        ~Activation();
+        Activation(const Activation&) = delete;
+        Activation& operator=(const Activation&) = delete;
+
+    private:
+        Task::Activation task_;
+        RunContext* previous_;
+    };
+
+private:
+    ContainerPlan& findOrMakePlan(const FunctorContainer& container);
+
+    // Tells this run from an earlier one at the same address.
+    const unsigned long serial_;
+    Task& task_;
+    SchedulerMaker makeScheduler_;
+    mutable std::mutex mutex_;
+    std::unordered_map<const FunctorContainer*, std::unique_ptr<ContainerPlan>> plans_;
+    const Functor* failedFunctor_ = nullptr;
+    std::string failureMessage_;
+};
+
+} // namespace VRK
+
+#endif

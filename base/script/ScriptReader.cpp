@@ -1,0 +1,21 @@
+#include "base/script/ScriptReader.h"
+
+#include <cassert>
+
+namespace VRK {
+
+ScriptReader::~ScriptReader() = default;
+
+void ScriptReader::read(Script* script, std::istream& in, const std::string& filename)
+{
+    assert(script != 0 && "script != 0");
+    readImpl(script, in, filename);
+}
+
+void ScriptReader::readProperties(Script* script, std::istream& in, const std::string& filename)
+{
+    assert(script != 0 && "script != 0");
+    readPropertiesImpl(script, in, filename);
+}
+
+} // namespace VRK

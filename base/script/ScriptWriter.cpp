@@ -1,0 +1,23 @@
+#include "base/script/ScriptWriter.h"
+
+#include <cassert>
+
+namespace VRK {
+
+ScriptWriter::~ScriptWriter() = default;
+
+void ScriptWriter::checkCompatibility(Script* script, const std::string& filename)
+{
+    assert(script != 0 && "script != 0");
+    checkCompatibilityImpl(script, filename);
+}
+
+void ScriptWriter::write(Script* script, std::ostream& out, const std::string& filename)
+{
+    assert(script != 0 && "script != 0");
+    writeImpl(script, out, filename);
+}
+
+void ScriptWriter::checkCompatibilityImpl(Script*, const std::string&) {}
+
+} // namespace VRK

@@ -1,0 +1,132 @@
+#include "base/script/text/DefaultScriptGrammar.h"
+
+#include "base/parse/ScriptTextScanner.h"
+#include "base/parse/TransducedAssertiveParser.h"
+#include "base/plugin/FactoryFarmManager.h"
+#include "base/script/text/DefaultScriptActions.h"
+
+#include <boost/spirit/include/classic_symbols.hpp>
+
+#include <type_traits>
+
+namespace VRK {
+
+namespace {
+
+using namespace boost::spirit::classic;
+
+// Reads the value of the current input in place, through the reader registered for
+// the input's type.
+class InPlaceValueParser : public parser<InPlaceValueParser> {
+public:
+    using self_t = InPlaceValueParser;
+
+    explicit InPlaceValueParser(DefaultScriptActions& actions) : actions_(&actions) {}
+
+    template <class ScannerT>
+    typename parser_result<self_t, ScannerT>::type parse(const ScannerT& scan) const
+    {
+        static_assert(std::is_same<ScannerT, ScriptScanner>::value,
+                      "values are read by the readers of the script scanner");
+        const ScriptIterator start = scan.first;
+        const std::ptrdiff_t length = actions_->value(scan);
+        return scan.create_match(length, nil_t(), start, scan.first);
+    }
+
+private:
+    DefaultScriptActions* actions_;
+};
+
+using Action = void (DefaultScriptActions::*)(const ScriptIterator&, const ScriptIterator&);
+
+// A semantic action on matched text that calls `action` of `actions`.
+auto on(DefaultScriptActions& actions, Action action)
+{
+    return [&actions, action](const ScriptIterator& first, const ScriptIterator& last) {
+        (actions.*action)(first, last);
+    };
+}
+
+} // namespace
+
+template <class ScannerT>
+struct DefaultScriptGrammar::definition {
+    using Rule = rule<ScannerT>;
+
+    explicit definition(const DefaultScriptGrammar& self)
+    {
+        static_assert(std::is_same<ScannerT, ScriptScanner>::value,
+                      "text scripts are read by the script scanner");
+        using Spirit::transduced_assertive_p;
+        DefaultScriptActions& a = self.getActions();
+        const FunctorParser& functorNames = *FactoryFarmManager::Instance().getFunctorParser();
+        const auto word = (alpha_p | '_') >> *(alnum_p | '_');
+
+        identifier = lexeme_d[word];
+        quoted = lexeme_d[ch_p('"') >> *((ch_p('\\') >> anychar_p) | (anychar_p - '"')) >> '"'];
+
+        property = str_p("@")
+                   >> transduced_assertive_p(identifier[on(a, &DefaultScriptActions::propertyName)],
+                                             "Expecting a property name after \"@\".")
+                   >> transduced_assertive_p(str_p("="), "Expecting \"=\" after the property name.")
+                   >> transduced_assertive_p(quoted[on(a, &DefaultScriptActions::propertyValue)],
+                                             "Expecting a property value enclosed by '\"'.");
+
+        functorName =
+            lexeme_d[functorNames[([&a](const std::string& name) { a.functorName(name); })]
+                     >> ~eps_p(alnum_p | '_')][on(a, &DefaultScriptActions::beginFunctor)]
+            | identifier[on(a, &DefaultScriptActions::unknownFunctor)];
+
+        reference = eps_p(alpha_p | '_')
+                    >> transduced_assertive_p(
+                        lexeme_d[word >> '.' >> word][on(a, &DefaultScriptActions::reference)],
+                        "Expecting a value, or a reference of the form alias.port.");
+
+        binding = (identifier[on(a, &DefaultScriptActions::word)]
+                   >> '=')[on(a, &DefaultScriptActions::port)]
+                  >> (reference | InPlaceValueParser(a));
+
+        contents = str_p("{")[on(a, &DefaultScriptActions::beginContents)] >> *statement
+                   >> (str_p("}")[on(a, &DefaultScriptActions::endContents)]
+                       | eps_p[on(a, &DefaultScriptActions::unclosedContents)]);
+
+        functor = !(identifier[on(a, &DefaultScriptActions::word)]
+                    >> str_p(":=")[([&a](const ScriptIterator&, const ScriptIterator&) {
+                          a.aliasDefined();
+                      })])
+                  >> transduced_assertive_p(functorName, "Expecting a functor name.") >> *binding
+                  >> (str_p(";") | contents
+                      | eps_p[on(a, &DefaultScriptActions::unterminatedFunctor)]);
+
+        statement = eps_p(ch_p('@') | alpha_p | '_')
+                    >> ((+property
+                         >> (str_p(";")[on(a, &DefaultScriptActions::scriptProperties)] | functor))
+                        | functor);
+
+        script = *statement >> transduced_assertive_p(end_p, "Expecting a functor name.");
+
+        scriptProperties =
+            *(+property >> str_p(";")[on(a, &DefaultScriptActions::scriptProperties)]);
+
+        start_ = self.isPropertiesOnly() ? &scriptProperties : &script;
+    }
+
+    const Rule& start() const { return *start_; }
+
+    Rule identifier, quoted, property, functorName, reference, binding, contents, functor,
+        statement, script, scriptProperties;
+    const Rule* start_;
+};
+
+DefaultScriptGrammar::DefaultScriptGrammar(DefaultScriptActions& actions, bool propertiesOnly)
+    : actions_(actions), propertiesOnly_(propertiesOnly)
+{
+}
+
+void DefaultScriptGrammar::read(const std::string& text, const std::string& filename) const
+{
+    const ScriptTextScanner scanner(text, filename);
+    boost::spirit::classic::grammar<DefaultScriptGrammar>::parse(scanner.getScanner());
+}
+
+} // namespace VRK

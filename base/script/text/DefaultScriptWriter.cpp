@@ -1,0 +1,103 @@
+#include "base/script/text/DefaultScriptWriter.h"
+
+#include "base/graph/ContainerFunctor.h"
+#include "base/graph/PortScope.h"
+#include "base/script/Script.h"
+#include "base/util/QuotedText.h"
+
+#include <cassert>
+
+namespace VRK {
+
+const std::set<std::string> DefaultScriptWriter::FileExtensions = {".vrk"};
+
+DefaultScriptWriter::DefaultScriptWriter(int indentWidth, bool writeProperties,
+                                         bool writeUnsetValues, bool writeAllAliases,
+                                         bool writeHostBindings, bool separateTopLevel)
+    : indentWidth_(indentWidth)
+    , writeProperties_(writeProperties)
+    , separateTopLevel_(separateTopLevel)
+{
+    assert(indentWidth >= 0 && "indentWidth >= 0");
+    planOptions_.writeUnsetValues = writeUnsetValues;
+    planOptions_.writeAllAliases = writeAllAliases;
+    planOptions_.writeHostBindings = writeHostBindings;
+    // Properties are written @name = "value": their names must read back as identifiers.
+    planOptions_.identifierPropertyNames = writeProperties;
+}
+
+DefaultScriptWriter::~DefaultScriptWriter() = default;
+
+void DefaultScriptWriter::checkCompatibilityImpl(Script* script, const std::string& filename)
+{
+    ScriptWritingPlan(*script, planOptions_).check(filename);
+}
+
+void DefaultScriptWriter::writeImpl(Script* script, std::ostream& out, const std::string& filename)
+{
+    const ScriptWritingPlan plan(*script, planOptions_);
+    plan.check(filename);
+    writeScriptProperties(*script, out);
+    bool first = true;
+    for (const auto& functor : script->getFunctors()) {
+        if (separateTopLevel_ && !first)
+            out << '\n';
+        writeFunctor(*functor, plan, 0, out);
+        first = false;
+    }
+}
+
+void DefaultScriptWriter::writeScriptProperties(const Script& script, std::ostream& out) const
+{
+    if (!writeProperties_ || script.getProperties().getAll().empty())
+        return;
+    for (const auto& property : script.getProperties().getAll())
+        out << '@' << property.first << " = " << QuotedText::quote(property.second) << ";\n";
+    out << '\n';
+}
+
+void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWritingPlan& plan,
+                                       int depth, std::ostream& out) const
+{
+    if (writeProperties_)
+        for (const auto& property : functor.getProperties().getAll())
+            indent(out, depth) << '@' << property.first << " = "
+                               << QuotedText::quote(property.second) << '\n';
+    indent(out, depth);
+    const std::string alias = plan.getAlias(functor);
+    if (!alias.empty())
+        out << alias << " := ";
+    out << functor.getName();
+    writeInputs(functor, plan, out);
+    auto* container = dynamic_cast<const ContainerFunctor*>(&functor);
+    if (!container) {
+        out << ";\n";
+        return;
+    }
+    if (container->getFunctorCount() == 0) {
+        out << " { }\n";
+        return;
+    }
+    out << " {\n";
+    for (const auto& inner : container->getFunctors())
+        writeFunctor(*inner, plan, depth + 1, out);
+    indent(out, depth) << "}\n";
+}
+
+void DefaultScriptWriter::writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
+                                      std::ostream& out)
+{
+    for (const InputPort* port : PortScope::getAllInputs(functor)) {
+        if (!plan.isWritten(*port))
+            continue;
+        out << ' ' << port->getName() << " = "
+            << (port->isBound() ? plan.getReference(*port) : ScriptWritingPlan::getValueText(*port));
+    }
+}
+
+std::ostream& DefaultScriptWriter::indent(std::ostream& out, int depth) const
+{
+    return out << std::string(static_cast<size_t>(depth * indentWidth_), ' ');
+}
+
+} // namespace VRK

@@ -1,0 +1,7 @@
+#include "base/task/Cancellable.h"
+
+namespace VRK {
+
+Cancellable::~Cancellable() = default;
+
+} // namespace VRK

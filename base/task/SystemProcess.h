@@ -1,0 +1,49 @@
+#ifndef VRK_BASE_SYSTEMPROCESS_H
+#define VRK_BASE_SYSTEMPROCESS_H
+
+#include "base/task/Cancellable.h"
+
+#include <memory>
+#include <string>
+#include <sys/types.h>
+
+namespace VRK {
+
+// An external process, started without a shell on construction. A process that is
+// still running when its object goes is killed, unless it was detached.
+class SystemProcess {
+public:
+    enum ProcessStatus { running = 0, finished = 1 };
+
+    // Starts `executable` (searched on PATH when it has no slash) with the arguments
+    // of `parameters`, split as a shell splits words. Throws a RuntimeException when
+    // the process cannot be started.
+    SystemProcess(const std::string& executable, const std::string& parameters);
+    ~SystemProcess();
+    SystemProcess(const SystemProcess&) = delete;
+    SystemProcess& operator=(const SystemProcess&) = delete;
+
+    ProcessStatus getStatus();
+    // Waits at most `milliseconds`; true when the process is still running then.
+    bool wait(unsigned int milliseconds);
+    // SIGTERM, then SIGKILL when the process has not ended after a grace period.
+    void kill();
+    // Hands the process over to `owner` (a task's worker), which reaps it and kills it
+    // when it is cancelled.
+    void detach(Cancellable* owner);
+
+    int getExitCode() const { return exitCode_; }
+    pid_t getPid() const { return pid_; }
+
+private:
+    bool reap(bool block);
+
+    pid_t pid_ = -1;
+    bool ended_ = false;
+    bool detached_ = false;
+    int exitCode_ = -1;
+};
+
+} // namespace VRK
+
+#endif

@@ -1,0 +1,7 @@
+#include "base/util/Lockable.h"
+
+namespace VRK {
+
+Lockable::~Lockable() = default;
+
+} // namespace VRK
