@@ -1,5 +1,5 @@
-#ifndef VRK_APP_CHECKCOMMAND_H
-#define VRK_APP_CHECKCOMMAND_H
+#ifndef VRK_APPS_VRK_CHECKCOMMAND_H
+#define VRK_APPS_VRK_CHECKCOMMAND_H
 
 #include <ostream>
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef VRK_APP_CONVERTCOMMAND_H
-#define VRK_APP_CONVERTCOMMAND_H
+#ifndef VRK_APPS_VRK_CONVERTCOMMAND_H
+#define VRK_APPS_VRK_CONVERTCOMMAND_H
 
 #include <ostream>
 #include <string>

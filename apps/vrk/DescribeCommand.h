@@ -1,5 +1,5 @@
-#ifndef VRK_APP_DESCRIBECOMMAND_H
-#define VRK_APP_DESCRIBECOMMAND_H
+#ifndef VRK_APPS_VRK_DESCRIBECOMMAND_H
+#define VRK_APPS_VRK_DESCRIBECOMMAND_H
 
 #include <ostream>
 #include <string>

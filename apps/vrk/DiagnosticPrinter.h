@@ -1,5 +1,5 @@
-#ifndef VRK_APP_DIAGNOSTICPRINTER_H
-#define VRK_APP_DIAGNOSTICPRINTER_H
+#ifndef VRK_APPS_VRK_DIAGNOSTICPRINTER_H
+#define VRK_APPS_VRK_DIAGNOSTICPRINTER_H
 
 #include "base/util/LineBuffer.h"
 #include "base/util/ScriptPosition.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_APP_HOSTSESSION_H
-#define VRK_APP_HOSTSESSION_H
+#ifndef VRK_APPS_VRK_HOSTSESSION_H
+#define VRK_APPS_VRK_HOSTSESSION_H
 
 #include "base/log/LogTag.h"
 #include "base/plugin/PluginLoader.h"

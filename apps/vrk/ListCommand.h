@@ -1,5 +1,5 @@
-#ifndef VRK_APP_LISTCOMMAND_H
-#define VRK_APP_LISTCOMMAND_H
+#ifndef VRK_APPS_VRK_LISTCOMMAND_H
+#define VRK_APPS_VRK_LISTCOMMAND_H
 
 #include <ostream>
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef VRK_APP_RUNCOMMAND_H
-#define VRK_APP_RUNCOMMAND_H
+#ifndef VRK_APPS_VRK_RUNCOMMAND_H
+#define VRK_APPS_VRK_RUNCOMMAND_H
 
 #include <optional>
 #include <ostream>

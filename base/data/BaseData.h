@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_BASEDATA_H
-#define VRK_BASE_BASEDATA_H
+#ifndef VRK_BASE_DATA_BASEDATA_H
+#define VRK_BASE_DATA_BASEDATA_H
 
 namespace VRK {
 

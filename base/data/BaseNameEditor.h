@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_BASENAMEEDITOR_H
-#define VRK_BASE_BASENAMEEDITOR_H
+#ifndef VRK_BASE_DATA_BASENAMEEDITOR_H
+#define VRK_BASE_DATA_BASENAMEEDITOR_H
 
 #include "base/data/DataEditor.h"
 

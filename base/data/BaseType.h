@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_BASETYPE_H
-#define VRK_BASE_BASETYPE_H
+#ifndef VRK_BASE_DATA_BASETYPE_H
+#define VRK_BASE_DATA_BASETYPE_H
 
 #include "base/util/Stringable.h"
 

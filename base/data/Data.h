@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATA_H
-#define VRK_BASE_DATA_H
+#ifndef VRK_BASE_DATA_DATA_H
+#define VRK_BASE_DATA_DATA_H
 
 #include "base/data/BaseData.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATACONVERTER_H
-#define VRK_BASE_DATACONVERTER_H
+#ifndef VRK_BASE_DATA_DATACONVERTER_H
+#define VRK_BASE_DATA_DATACONVERTER_H
 
 #include "base/data/BaseData.h"
 

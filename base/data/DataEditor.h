@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAEDITOR_H
-#define VRK_BASE_DATAEDITOR_H
+#ifndef VRK_BASE_DATA_DATAEDITOR_H
+#define VRK_BASE_DATA_DATAEDITOR_H
 
 #include "base/data/DataHolder.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAHOLDER_H
-#define VRK_BASE_DATAHOLDER_H
+#ifndef VRK_BASE_DATA_DATAHOLDER_H
+#define VRK_BASE_DATA_DATAHOLDER_H
 
 #include "base/data/BaseData.h"
 #include "base/data/Typeable.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAREADER_H
-#define VRK_BASE_DATAREADER_H
+#ifndef VRK_BASE_DATA_DATAREADER_H
+#define VRK_BASE_DATA_DATAREADER_H
 
 #include <cassert>
 #include <cstddef>

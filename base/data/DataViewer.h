@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAVIEWER_H
-#define VRK_BASE_DATAVIEWER_H
+#ifndef VRK_BASE_DATA_DATAVIEWER_H
+#define VRK_BASE_DATA_DATAVIEWER_H
 
 #include "base/data/DataHolder.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAWRITER_H
-#define VRK_BASE_DATAWRITER_H
+#ifndef VRK_BASE_DATA_DATAWRITER_H
+#define VRK_BASE_DATA_DATAWRITER_H
 
 #include <ostream>
 

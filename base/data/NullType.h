@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_NULLTYPE_H
-#define VRK_BASE_NULLTYPE_H
+#ifndef VRK_BASE_DATA_NULLTYPE_H
+#define VRK_BASE_DATA_NULLTYPE_H
 
 namespace VRK {
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PRIMDATA_H
-#define VRK_BASE_PRIMDATA_H
+#ifndef VRK_BASE_DATA_PRIMDATA_H
+#define VRK_BASE_DATA_PRIMDATA_H
 
 #include "base/data/Data.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TYPE_H
-#define VRK_BASE_TYPE_H
+#ifndef VRK_BASE_DATA_TYPE_H
+#define VRK_BASE_DATA_TYPE_H
 
 #include "base/data/BaseType.h"
 #include "base/data/NullType.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TYPESHIM_H
-#define VRK_BASE_TYPESHIM_H
+#ifndef VRK_BASE_DATA_TYPESHIM_H
+#define VRK_BASE_DATA_TYPESHIM_H
 
 #include "base/data/Type.h"
 #include "base/util/Singleton.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TYPEABLE_H
-#define VRK_BASE_TYPEABLE_H
+#ifndef VRK_BASE_DATA_TYPEABLE_H
+#define VRK_BASE_DATA_TYPEABLE_H
 
 #include "base/util/Descriptable.h"
 

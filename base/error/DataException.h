@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DATAEXCEPTION_H
-#define VRK_BASE_DATAEXCEPTION_H
+#ifndef VRK_BASE_ERROR_DATAEXCEPTION_H
+#define VRK_BASE_ERROR_DATAEXCEPTION_H
 
 #include "base/error/Exception.h"
 

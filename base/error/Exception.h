@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_EXCEPTION_H
-#define VRK_BASE_EXCEPTION_H
+#ifndef VRK_BASE_ERROR_EXCEPTION_H
+#define VRK_BASE_ERROR_EXCEPTION_H
 
 #include "base/util/ScriptPosition.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_EXCEPTIONUTILS_H
-#define VRK_BASE_EXCEPTIONUTILS_H
+#ifndef VRK_BASE_ERROR_EXCEPTIONUTILS_H
+#define VRK_BASE_ERROR_EXCEPTIONUTILS_H
 
 #include "base/error/Exception.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FILEEXCEPTION_H
-#define VRK_BASE_FILEEXCEPTION_H
+#ifndef VRK_BASE_ERROR_FILEEXCEPTION_H
+#define VRK_BASE_ERROR_FILEEXCEPTION_H
 
 #include "base/error/Exception.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_GRAPHEXCEPTION_H
-#define VRK_BASE_GRAPHEXCEPTION_H
+#ifndef VRK_BASE_ERROR_GRAPHEXCEPTION_H
+#define VRK_BASE_ERROR_GRAPHEXCEPTION_H
 
 #include "base/error/Exception.h"
 

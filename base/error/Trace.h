@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TRACE_H
-#define VRK_BASE_TRACE_H
+#ifndef VRK_BASE_ERROR_TRACE_H
+#define VRK_BASE_ERROR_TRACE_H
 
 #include <string>
 

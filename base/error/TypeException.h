@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TYPEEXCEPTION_H
-#define VRK_BASE_TYPEEXCEPTION_H
+#ifndef VRK_BASE_ERROR_TYPEEXCEPTION_H
+#define VRK_BASE_ERROR_TYPEEXCEPTION_H
 
 #include "base/error/Exception.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_CONTAINERFUNCTOR_H
-#define VRK_BASE_CONTAINERFUNCTOR_H
+#ifndef VRK_BASE_GRAPH_CONTAINERFUNCTOR_H
+#define VRK_BASE_GRAPH_CONTAINERFUNCTOR_H
 
 #include "base/graph/FeedbackStrongInputPort.h"
 #include "base/graph/Functor.h"

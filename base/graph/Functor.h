@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FUNCTOR_H
-#define VRK_BASE_FUNCTOR_H
+#ifndef VRK_BASE_GRAPH_FUNCTOR_H
+#define VRK_BASE_GRAPH_FUNCTOR_H
 
 #include "base/data/Typeable.h"
 #include "base/error/DataException.h"

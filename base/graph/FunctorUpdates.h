@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FUNCTORUPDATES_H
-#define VRK_BASE_FUNCTORUPDATES_H
+#ifndef VRK_BASE_GRAPH_FUNCTORUPDATES_H
+#define VRK_BASE_GRAPH_FUNCTORUPDATES_H
 
 #include <memory>
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FUNCTORWALK_H
-#define VRK_BASE_FUNCTORWALK_H
+#ifndef VRK_BASE_GRAPH_FUNCTORWALK_H
+#define VRK_BASE_GRAPH_FUNCTORWALK_H
 
 #include <functional>
 

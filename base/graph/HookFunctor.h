@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_HOOKFUNCTOR_H
-#define VRK_BASE_HOOKFUNCTOR_H
+#ifndef VRK_BASE_GRAPH_HOOKFUNCTOR_H
+#define VRK_BASE_GRAPH_HOOKFUNCTOR_H
 
 #include "base/graph/Functor.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_INPUTPORT_H
-#define VRK_BASE_INPUTPORT_H
+#ifndef VRK_BASE_GRAPH_INPUTPORT_H
+#define VRK_BASE_GRAPH_INPUTPORT_H
 
 #include "base/data/DataEditor.h"
 #include "base/data/SinglePeerDataHolder.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_OUTPUTPORT_H
-#define VRK_BASE_OUTPUTPORT_H
+#ifndef VRK_BASE_GRAPH_OUTPUTPORT_H
+#define VRK_BASE_GRAPH_OUTPUTPORT_H
 
 #include "base/data/DataHolder.h"
 

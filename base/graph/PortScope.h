@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PORTSCOPE_H
-#define VRK_BASE_PORTSCOPE_H
+#ifndef VRK_BASE_GRAPH_PORTSCOPE_H
+#define VRK_BASE_GRAPH_PORTSCOPE_H
 
 #include <vector>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOGFILTER_H
-#define VRK_BASE_LOGFILTER_H
+#ifndef VRK_BASE_LOG_LOGFILTER_H
+#define VRK_BASE_LOG_LOGFILTER_H
 
 #include "base/log/LogTag.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOGSINK_H
-#define VRK_BASE_LOGSINK_H
+#ifndef VRK_BASE_LOG_LOGSINK_H
+#define VRK_BASE_LOG_LOGSINK_H
 
 #include "base/log/LogTag.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOGTAG_H
-#define VRK_BASE_LOGTAG_H
+#ifndef VRK_BASE_LOG_LOGTAG_H
+#define VRK_BASE_LOG_LOGTAG_H
 
 #include <ostream>
 

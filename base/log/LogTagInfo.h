@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOGTAGINFO_H
-#define VRK_BASE_LOGTAGINFO_H
+#ifndef VRK_BASE_LOG_LOGTAGINFO_H
+#define VRK_BASE_LOG_LOGTAGINFO_H
 
 #include "base/log/LogTag.h"
 

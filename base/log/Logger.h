@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOGGER_H
-#define VRK_BASE_LOGGER_H
+#ifndef VRK_BASE_LOG_LOGGER_H
+#define VRK_BASE_LOG_LOGGER_H
 
 #include "base/log/LogFilter.h"
 #include "base/log/LogSink.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_STREAMLOGSINK_H
-#define VRK_BASE_STREAMLOGSINK_H
+#ifndef VRK_BASE_LOG_STREAMLOGSINK_H
+#define VRK_BASE_LOG_STREAMLOGSINK_H
 
 #include "base/log/LogSink.h"
 

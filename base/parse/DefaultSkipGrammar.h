@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DEFAULTSKIPGRAMMAR_H
-#define VRK_BASE_DEFAULTSKIPGRAMMAR_H
+#ifndef VRK_BASE_PARSE_DEFAULTSKIPGRAMMAR_H
+#define VRK_BASE_PARSE_DEFAULTSKIPGRAMMAR_H
 
 #include <boost/spirit/include/classic_core.hpp>
 #include <boost/spirit/include/classic_confix.hpp>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PARSEERROR_H
-#define VRK_BASE_PARSEERROR_H
+#ifndef VRK_BASE_PARSE_PARSEERROR_H
+#define VRK_BASE_PARSE_PARSEERROR_H
 
 #include "base/error/Exception.h"
 

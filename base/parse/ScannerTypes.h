@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCANNERTYPES_H
-#define VRK_BASE_SCANNERTYPES_H
+#ifndef VRK_BASE_PARSE_SCANNERTYPES_H
+#define VRK_BASE_PARSE_SCANNERTYPES_H
 
 #include "base/parse/DefaultSkipGrammar.h"
 #include "base/util/ScriptFileName.h"

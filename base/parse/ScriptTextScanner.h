@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTTEXTSCANNER_H
-#define VRK_BASE_SCRIPTTEXTSCANNER_H
+#ifndef VRK_BASE_PARSE_SCRIPTTEXTSCANNER_H
+#define VRK_BASE_PARSE_SCRIPTTEXTSCANNER_H
 
 #include "base/parse/DefaultSkipGrammar.h"
 #include "base/parse/ScannerTypes.h"

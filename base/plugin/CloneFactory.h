@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_CLONEFACTORY_H
-#define VRK_BASE_CLONEFACTORY_H
+#ifndef VRK_BASE_PLUGIN_CLONEFACTORY_H
+#define VRK_BASE_PLUGIN_CLONEFACTORY_H
 
 #include "base/error/ExceptionUtils.h"
 

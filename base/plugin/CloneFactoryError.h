@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_CLONEFACTORYERROR_H
-#define VRK_BASE_CLONEFACTORYERROR_H
+#ifndef VRK_BASE_PLUGIN_CLONEFACTORYERROR_H
+#define VRK_BASE_PLUGIN_CLONEFACTORYERROR_H
 
 #include "base/error/ExceptionUtils.h"
 #include "base/plugin/FactoryError.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FACTORY_H
-#define VRK_BASE_FACTORY_H
+#ifndef VRK_BASE_PLUGIN_FACTORY_H
+#define VRK_BASE_PLUGIN_FACTORY_H
 
 #include "base/error/ExceptionUtils.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FACTORYERROR_H
-#define VRK_BASE_FACTORYERROR_H
+#ifndef VRK_BASE_PLUGIN_FACTORYERROR_H
+#define VRK_BASE_PLUGIN_FACTORYERROR_H
 
 #include "base/error/Exception.h"
 

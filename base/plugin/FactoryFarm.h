@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FACTORYFARM_H
-#define VRK_BASE_FACTORYFARM_H
+#ifndef VRK_BASE_PLUGIN_FACTORYFARM_H
+#define VRK_BASE_PLUGIN_FACTORYFARM_H
 
 #include "base/plugin/CloneFactory.h"
 #include "base/plugin/CloneFactoryError.h"

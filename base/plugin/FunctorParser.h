@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_FUNCTORPARSER_H
-#define VRK_BASE_FUNCTORPARSER_H
+#ifndef VRK_BASE_PLUGIN_FUNCTORPARSER_H
+#define VRK_BASE_PLUGIN_FUNCTORPARSER_H
 
 #include <boost/spirit/include/classic_symbols_fwd.hpp>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PLUGIN_H
-#define VRK_BASE_PLUGIN_H
+#ifndef VRK_BASE_PLUGIN_PLUGIN_H
+#define VRK_BASE_PLUGIN_PLUGIN_H
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PLUGINLOADER_H
-#define VRK_BASE_PLUGINLOADER_H
+#ifndef VRK_BASE_PLUGIN_PLUGINLOADER_H
+#define VRK_BASE_PLUGIN_PLUGINLOADER_H
 
 #include "base/plugin/Plugin.h"
 

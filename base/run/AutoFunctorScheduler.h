@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_AUTOFUNCTORSCHEDULER_H
-#define VRK_BASE_AUTOFUNCTORSCHEDULER_H
+#ifndef VRK_BASE_RUN_AUTOFUNCTORSCHEDULER_H
+#define VRK_BASE_RUN_AUTOFUNCTORSCHEDULER_H
 
 #include "base/run/FunctorScheduler.h"
 #include "base/run/PassSchedule.h"

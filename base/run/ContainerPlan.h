@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_CONTAINERPLAN_H
-#define VRK_BASE_CONTAINERPLAN_H
+#ifndef VRK_BASE_RUN_CONTAINERPLAN_H
+#define VRK_BASE_RUN_CONTAINERPLAN_H
 
 #include "base/log/LogTag.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PARALLELPASS_H
-#define VRK_BASE_PARALLELPASS_H
+#ifndef VRK_BASE_RUN_PARALLELPASS_H
+#define VRK_BASE_RUN_PARALLELPASS_H
 
 #include "base/log/LogTag.h"
 

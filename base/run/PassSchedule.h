@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PASSSCHEDULE_H
-#define VRK_BASE_PASSSCHEDULE_H
+#ifndef VRK_BASE_RUN_PASSSCHEDULE_H
+#define VRK_BASE_RUN_PASSSCHEDULE_H
 
 #include "base/log/LogTag.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_RUNCONTEXT_H
-#define VRK_BASE_RUNCONTEXT_H
+#ifndef VRK_BASE_RUN_RUNCONTEXT_H
+#define VRK_BASE_RUN_RUNCONTEXT_H
 
 #include "base/run/ContainerPlan.h"
 #include "base/task/Task.h"

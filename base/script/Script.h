@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPT_H
-#define VRK_BASE_SCRIPT_H
+#ifndef VRK_BASE_SCRIPT_SCRIPT_H
+#define VRK_BASE_SCRIPT_SCRIPT_H
 
 #include "base/graph/FunctorContainer.h"
 #include "base/run/LightRunner.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTBUILDER_H
-#define VRK_BASE_SCRIPTBUILDER_H
+#ifndef VRK_BASE_SCRIPT_SCRIPTBUILDER_H
+#define VRK_BASE_SCRIPT_SCRIPTBUILDER_H
 
 #include "base/data/BaseType.h"
 #include "base/data/DataReader.h"

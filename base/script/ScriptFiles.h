@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTFILES_H
-#define VRK_BASE_SCRIPTFILES_H
+#ifndef VRK_BASE_SCRIPT_SCRIPTFILES_H
+#define VRK_BASE_SCRIPT_SCRIPTFILES_H
 
 #include <memory>
 #include <string>

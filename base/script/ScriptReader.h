@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTREADER_H
-#define VRK_BASE_SCRIPTREADER_H
+#ifndef VRK_BASE_SCRIPT_SCRIPTREADER_H
+#define VRK_BASE_SCRIPT_SCRIPTREADER_H
 
 #include <istream>
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTWRITER_H
-#define VRK_BASE_SCRIPTWRITER_H
+#ifndef VRK_BASE_SCRIPT_SCRIPTWRITER_H
+#define VRK_BASE_SCRIPT_SCRIPTWRITER_H
 
 #include <ostream>
 #include <string>

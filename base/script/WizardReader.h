@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_WIZARDREADER_H
-#define VRK_BASE_WIZARDREADER_H
+#ifndef VRK_BASE_SCRIPT_WIZARDREADER_H
+#define VRK_BASE_SCRIPT_WIZARDREADER_H
 
 #include "base/script/WizardParameter.h"
 

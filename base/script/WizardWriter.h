@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_WIZARDWRITER_H
-#define VRK_BASE_WIZARDWRITER_H
+#ifndef VRK_BASE_SCRIPT_WIZARDWRITER_H
+#define VRK_BASE_SCRIPT_WIZARDWRITER_H
 
 #include "base/script/WizardParameter.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PROCESSOR_H
-#define VRK_BASE_PROCESSOR_H
+#ifndef VRK_BASE_TASK_PROCESSOR_H
+#define VRK_BASE_TASK_PROCESSOR_H
 
 #include <tbb/global_control.h>
 

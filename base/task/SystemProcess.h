@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SYSTEMPROCESS_H
-#define VRK_BASE_SYSTEMPROCESS_H
+#ifndef VRK_BASE_TASK_SYSTEMPROCESS_H
+#define VRK_BASE_TASK_SYSTEMPROCESS_H
 
 #include "base/task/Cancellable.h"
 

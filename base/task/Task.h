@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TASK_H
-#define VRK_BASE_TASK_H
+#ifndef VRK_BASE_TASK_TASK_H
+#define VRK_BASE_TASK_TASK_H
 
 #include "base/task/Cancellable.h"
 #include "base/task/TaskWorker.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_TASKWORKER_H
-#define VRK_BASE_TASKWORKER_H
+#ifndef VRK_BASE_TASK_TASKWORKER_H
+#define VRK_BASE_TASK_TASKWORKER_H
 
 #include "base/task/Cancellable.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DESCRIPTABLE_H
-#define VRK_BASE_DESCRIPTABLE_H
+#ifndef VRK_BASE_UTIL_DESCRIPTABLE_H
+#define VRK_BASE_UTIL_DESCRIPTABLE_H
 
 #include "base/util/Stringable.h"
 

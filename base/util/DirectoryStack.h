@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DIRECTORYSTACK_H
-#define VRK_BASE_DIRECTORYSTACK_H
+#ifndef VRK_BASE_UTIL_DIRECTORYSTACK_H
+#define VRK_BASE_UTIL_DIRECTORYSTACK_H
 
 #include <boost/filesystem/path.hpp>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LINEBUFFER_H
-#define VRK_BASE_LINEBUFFER_H
+#ifndef VRK_BASE_UTIL_LINEBUFFER_H
+#define VRK_BASE_UTIL_LINEBUFFER_H
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_LOCKABLE_H
-#define VRK_BASE_LOCKABLE_H
+#ifndef VRK_BASE_UTIL_LOCKABLE_H
+#define VRK_BASE_UTIL_LOCKABLE_H
 
 #include <mutex>
 

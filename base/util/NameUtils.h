@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_NAMEUTILS_H
-#define VRK_BASE_NAMEUTILS_H
+#ifndef VRK_BASE_UTIL_NAMEUTILS_H
+#define VRK_BASE_UTIL_NAMEUTILS_H
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PATHUTILS_H
-#define VRK_BASE_PATHUTILS_H
+#ifndef VRK_BASE_UTIL_PATHUTILS_H
+#define VRK_BASE_UTIL_PATHUTILS_H
 
 #include <boost/filesystem/path.hpp>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PROPERTIABLE_H
-#define VRK_BASE_PROPERTIABLE_H
+#ifndef VRK_BASE_UTIL_PROPERTIABLE_H
+#define VRK_BASE_UTIL_PROPERTIABLE_H
 
 #include "base/util/Properties.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PROPERTIES_H
-#define VRK_BASE_PROPERTIES_H
+#ifndef VRK_BASE_UTIL_PROPERTIES_H
+#define VRK_BASE_UTIL_PROPERTIES_H
 
 #include <string>
 #include <utility>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_QUOTEDTEXT_H
-#define VRK_BASE_QUOTEDTEXT_H
+#ifndef VRK_BASE_UTIL_QUOTEDTEXT_H
+#define VRK_BASE_UTIL_QUOTEDTEXT_H
 
 #include <string>
 

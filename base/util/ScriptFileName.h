@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTFILENAME_H
-#define VRK_BASE_SCRIPTFILENAME_H
+#ifndef VRK_BASE_UTIL_SCRIPTFILENAME_H
+#define VRK_BASE_UTIL_SCRIPTFILENAME_H
 
 #include <cstring>
 #include <string>

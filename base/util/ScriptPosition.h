@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SCRIPTPOSITION_H
-#define VRK_BASE_SCRIPTPOSITION_H
+#ifndef VRK_BASE_UTIL_SCRIPTPOSITION_H
+#define VRK_BASE_UTIL_SCRIPTPOSITION_H
 
 #include <ostream>
 #include <string>

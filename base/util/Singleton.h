@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_SINGLETON_H
-#define VRK_BASE_SINGLETON_H
+#ifndef VRK_BASE_UTIL_SINGLETON_H
+#define VRK_BASE_UTIL_SINGLETON_H
 
 #include <cassert>
 #include <memory>

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_STRINGUTILS_H
-#define VRK_BASE_STRINGUTILS_H
+#ifndef VRK_BASE_UTIL_STRINGUTILS_H
+#define VRK_BASE_UTIL_STRINGUTILS_H
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_STRINGABLE_H
-#define VRK_BASE_STRINGABLE_H
+#ifndef VRK_BASE_UTIL_STRINGABLE_H
+#define VRK_BASE_UTIL_STRINGABLE_H
 
 #include <ostream>
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef IO_PRINTUTILS_H
-#define IO_PRINTUTILS_H
+#ifndef VRK_PLUGINS_IO_PRINTUTILS_H
+#define VRK_PLUGINS_IO_PRINTUTILS_H
 
 #include "base/graph/Functor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_BOOLDATA_H
-#define PRIM_BOOLDATA_H
+#ifndef VRK_PLUGINS_PRIM_BOOLDATA_H
+#define VRK_PLUGINS_PRIM_BOOLDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/BoolEditor.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_BOOLEDITOR_H
-#define PRIM_BOOLEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_BOOLEDITOR_H
+#define VRK_PLUGINS_PRIM_BOOLEDITOR_H
 
 #include "base/data/DataEditor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_BOOLFUNCTOR_H
-#define PRIM_BOOLFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_BOOLFUNCTOR_H
+#define VRK_PLUGINS_PRIM_BOOLFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

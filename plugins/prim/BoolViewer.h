@@ -1,5 +1,5 @@
-#ifndef PRIM_BOOLVIEWER_H
-#define PRIM_BOOLVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_BOOLVIEWER_H
+#define VRK_PLUGINS_PRIM_BOOLVIEWER_H
 
 #include "base/data/DataViewer.h"
 

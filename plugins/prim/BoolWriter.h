@@ -1,5 +1,5 @@
-#ifndef PRIM_BOOLWRITER_H
-#define PRIM_BOOLWRITER_H
+#ifndef VRK_PLUGINS_PRIM_BOOLWRITER_H
+#define VRK_PLUGINS_PRIM_BOOLWRITER_H
 
 #include "base/data/DataWriter.h"
 

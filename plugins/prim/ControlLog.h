@@ -1,5 +1,5 @@
-#ifndef PRIM_CONTROLLOG_H
-#define PRIM_CONTROLLOG_H
+#ifndef VRK_PLUGINS_PRIM_CONTROLLOG_H
+#define VRK_PLUGINS_PRIM_CONTROLLOG_H
 
 #include "base/log/LogTag.h"
 #include "base/log/Logger.h"

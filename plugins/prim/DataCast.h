@@ -1,5 +1,5 @@
-#ifndef PRIM_DATACAST_H
-#define PRIM_DATACAST_H
+#ifndef VRK_PLUGINS_PRIM_DATACAST_H
+#define VRK_PLUGINS_PRIM_DATACAST_H
 
 #include "base/data/BaseData.h"
 

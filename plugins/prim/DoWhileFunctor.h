@@ -1,5 +1,5 @@
-#ifndef PRIM_DOWHILEFUNCTOR_H
-#define PRIM_DOWHILEFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_DOWHILEFUNCTOR_H
+#define VRK_PLUGINS_PRIM_DOWHILEFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEDATA_H
-#define PRIM_DOUBLEDATA_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEDATA_H
+#define VRK_PLUGINS_PRIM_DOUBLEDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/DoubleEditor.h"

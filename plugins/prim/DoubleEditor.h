@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEEDITOR_H
-#define PRIM_DOUBLEEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEEDITOR_H
+#define VRK_PLUGINS_PRIM_DOUBLEEDITOR_H
 
 #include "base/data/DataEditor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEFUNCTOR_H
-#define PRIM_DOUBLEFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEFUNCTOR_H
+#define VRK_PLUGINS_PRIM_DOUBLEFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEREADER_H
-#define PRIM_DOUBLEREADER_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEREADER_H
+#define VRK_PLUGINS_PRIM_DOUBLEREADER_H
 
 #include "plugins/prim/NumberReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEVIEWER_H
-#define PRIM_DOUBLEVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEVIEWER_H
+#define VRK_PLUGINS_PRIM_DOUBLEVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_DOUBLEWRITER_H
-#define PRIM_DOUBLEWRITER_H
+#ifndef VRK_PLUGINS_PRIM_DOUBLEWRITER_H
+#define VRK_PLUGINS_PRIM_DOUBLEWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_EDITORCHECKUTILS_H
-#define PRIM_EDITORCHECKUTILS_H
+#ifndef VRK_PLUGINS_PRIM_EDITORCHECKUTILS_H
+#define VRK_PLUGINS_PRIM_EDITORCHECKUTILS_H
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"

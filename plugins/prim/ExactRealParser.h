@@ -1,5 +1,5 @@
-#ifndef PRIM_EXACTREALPARSER_H
-#define PRIM_EXACTREALPARSER_H
+#ifndef VRK_PLUGINS_PRIM_EXACTREALPARSER_H
+#define VRK_PLUGINS_PRIM_EXACTREALPARSER_H
 
 #include <boost/spirit/include/classic_core.hpp>
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_EXITFUNCTOR_H
-#define PRIM_EXITFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_EXITFUNCTOR_H
+#define VRK_PLUGINS_PRIM_EXITFUNCTOR_H
 
 #include "base/graph/Functor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_FILENAMEDATA_H
-#define PRIM_FILENAMEDATA_H
+#ifndef VRK_PLUGINS_PRIM_FILENAMEDATA_H
+#define VRK_PLUGINS_PRIM_FILENAMEDATA_H
 
 #include "base/data/BaseData.h"
 #include "plugins/prim/CompoundFilename.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_FILENAMEREADER_H
-#define PRIM_FILENAMEREADER_H
+#ifndef VRK_PLUGINS_PRIM_FILENAMEREADER_H
+#define VRK_PLUGINS_PRIM_FILENAMEREADER_H
 
 #include "plugins/prim/QuotedTextReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDERDATA_H
-#define PRIM_FOLDERDATA_H
+#ifndef VRK_PLUGINS_PRIM_FOLDERDATA_H
+#define VRK_PLUGINS_PRIM_FOLDERDATA_H
 
 #include "base/data/Data.h"
 #include "plugins/prim/CompoundFilename.h"

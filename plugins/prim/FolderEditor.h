@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDEREDITOR_H
-#define PRIM_FOLDEREDITOR_H
+#ifndef VRK_PLUGINS_PRIM_FOLDEREDITOR_H
+#define VRK_PLUGINS_PRIM_FOLDEREDITOR_H
 
 #include "plugins/prim/FilenameEditor.h"
 

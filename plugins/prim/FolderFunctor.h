@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDERFUNCTOR_H
-#define PRIM_FOLDERFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_FOLDERFUNCTOR_H
+#define VRK_PLUGINS_PRIM_FOLDERFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 #include "plugins/prim/FilenameBanneredFunctor.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDERREADER_H
-#define PRIM_FOLDERREADER_H
+#ifndef VRK_PLUGINS_PRIM_FOLDERREADER_H
+#define VRK_PLUGINS_PRIM_FOLDERREADER_H
 
 #include "plugins/prim/FilenameReader.h"
 

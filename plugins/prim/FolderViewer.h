@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDERVIEWER_H
-#define PRIM_FOLDERVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_FOLDERVIEWER_H
+#define VRK_PLUGINS_PRIM_FOLDERVIEWER_H
 
 #include "plugins/prim/FilenameViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_FOLDERWRITER_H
-#define PRIM_FOLDERWRITER_H
+#ifndef VRK_PLUGINS_PRIM_FOLDERWRITER_H
+#define VRK_PLUGINS_PRIM_FOLDERWRITER_H
 
 #include "plugins/prim/FilenameWriter.h"
 

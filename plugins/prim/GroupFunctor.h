@@ -1,5 +1,5 @@
-#ifndef PRIM_GROUPFUNCTOR_H
-#define PRIM_GROUPFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_GROUPFUNCTOR_H
+#define VRK_PLUGINS_PRIM_GROUPFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

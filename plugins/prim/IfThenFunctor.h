@@ -1,5 +1,5 @@
-#ifndef PRIM_IFTHENFUNCTOR_H
-#define PRIM_IFTHENFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_IFTHENFUNCTOR_H
+#define VRK_PLUGINS_PRIM_IFTHENFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

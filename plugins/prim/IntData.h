@@ -1,5 +1,5 @@
-#ifndef PRIM_INTDATA_H
-#define PRIM_INTDATA_H
+#ifndef VRK_PLUGINS_PRIM_INTDATA_H
+#define VRK_PLUGINS_PRIM_INTDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/DoubleData.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTEDITOR_H
-#define PRIM_INTEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_INTEDITOR_H
+#define VRK_PLUGINS_PRIM_INTEDITOR_H
 
 #include "base/data/DataEditor.h"
 

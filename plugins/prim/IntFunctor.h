@@ -1,5 +1,5 @@
-#ifndef PRIM_INTFUNCTOR_H
-#define PRIM_INTFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_INTFUNCTOR_H
+#define VRK_PLUGINS_PRIM_INTFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTREADER_H
-#define PRIM_INTREADER_H
+#ifndef VRK_PLUGINS_PRIM_INTREADER_H
+#define VRK_PLUGINS_PRIM_INTREADER_H
 
 #include "plugins/prim/NumberReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETDATA_H
-#define PRIM_INTSETDATA_H
+#ifndef VRK_PLUGINS_PRIM_INTSETDATA_H
+#define VRK_PLUGINS_PRIM_INTSETDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/IntSetEditor.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETEDITOR_H
-#define PRIM_INTSETEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_INTSETEDITOR_H
+#define VRK_PLUGINS_PRIM_INTSETEDITOR_H
 
 #include "base/data/DataEditor.h"
 

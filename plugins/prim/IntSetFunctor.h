@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETFUNCTOR_H
-#define PRIM_INTSETFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_INTSETFUNCTOR_H
+#define VRK_PLUGINS_PRIM_INTSETFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETTYPE_H
-#define PRIM_INTSETTYPE_H
+#ifndef VRK_PLUGINS_PRIM_INTSETTYPE_H
+#define VRK_PLUGINS_PRIM_INTSETTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/IntSetData.h"

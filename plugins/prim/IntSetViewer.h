@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETVIEWER_H
-#define PRIM_INTSETVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_INTSETVIEWER_H
+#define VRK_PLUGINS_PRIM_INTSETVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTSETWRITER_H
-#define PRIM_INTSETWRITER_H
+#ifndef VRK_PLUGINS_PRIM_INTSETWRITER_H
+#define VRK_PLUGINS_PRIM_INTSETWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTTYPE_H
-#define PRIM_INTTYPE_H
+#ifndef VRK_PLUGINS_PRIM_INTTYPE_H
+#define VRK_PLUGINS_PRIM_INTTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_INTVIEWER_H
-#define PRIM_INTVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_INTVIEWER_H
+#define VRK_PLUGINS_PRIM_INTVIEWER_H
 
 #include "base/data/DataViewer.h"
 

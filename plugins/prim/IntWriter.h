@@ -1,5 +1,5 @@
-#ifndef PRIM_INTWRITER_H
-#define PRIM_INTWRITER_H
+#ifndef VRK_PLUGINS_PRIM_INTWRITER_H
+#define VRK_PLUGINS_PRIM_INTWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_JUNCTIONUTILS_H
-#define PRIM_JUNCTIONUTILS_H
+#ifndef VRK_PLUGINS_PRIM_JUNCTIONUTILS_H
+#define VRK_PLUGINS_PRIM_JUNCTIONUTILS_H
 
 #include "base/graph/Functor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_LOGTAGEDITOR_H
-#define PRIM_LOGTAGEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_LOGTAGEDITOR_H
+#define VRK_PLUGINS_PRIM_LOGTAGEDITOR_H
 
 #include "base/data/DataEditor.h"
 #include "base/log/LogTag.h"

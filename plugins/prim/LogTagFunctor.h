@@ -1,5 +1,5 @@
-#ifndef PRIM_LOGTAGFUNCTOR_H
-#define PRIM_LOGTAGFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_LOGTAGFUNCTOR_H
+#define VRK_PLUGINS_PRIM_LOGTAGFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

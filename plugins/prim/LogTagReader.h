@@ -1,5 +1,5 @@
-#ifndef PRIM_LOGTAGREADER_H
-#define PRIM_LOGTAGREADER_H
+#ifndef VRK_PLUGINS_PRIM_LOGTAGREADER_H
+#define VRK_PLUGINS_PRIM_LOGTAGREADER_H
 
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"

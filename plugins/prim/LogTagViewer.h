@@ -1,5 +1,5 @@
-#ifndef PRIM_LOGTAGVIEWER_H
-#define PRIM_LOGTAGVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_LOGTAGVIEWER_H
+#define VRK_PLUGINS_PRIM_LOGTAGVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_LOGTAGWRITER_H
-#define PRIM_LOGTAGWRITER_H
+#ifndef VRK_PLUGINS_PRIM_LOGTAGWRITER_H
+#define VRK_PLUGINS_PRIM_LOGTAGWRITER_H
 
 #include "base/data/DataWriter.h"
 

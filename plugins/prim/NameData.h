@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEDATA_H
-#define PRIM_NAMEDATA_H
+#ifndef VRK_PLUGINS_PRIM_NAMEDATA_H
+#define VRK_PLUGINS_PRIM_NAMEDATA_H
 
 #include "plugins/prim/NameEditor.h"
 #include "plugins/prim/StringData.h"

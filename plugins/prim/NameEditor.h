@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEEDITOR_H
-#define PRIM_NAMEEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_NAMEEDITOR_H
+#define VRK_PLUGINS_PRIM_NAMEEDITOR_H
 
 #include "base/data/BaseNameEditor.h"
 

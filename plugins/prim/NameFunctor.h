@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEFUNCTOR_H
-#define PRIM_NAMEFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_NAMEFUNCTOR_H
+#define VRK_PLUGINS_PRIM_NAMEFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

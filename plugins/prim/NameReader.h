@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEREADER_H
-#define PRIM_NAMEREADER_H
+#ifndef VRK_PLUGINS_PRIM_NAMEREADER_H
+#define VRK_PLUGINS_PRIM_NAMEREADER_H
 
 #include "plugins/prim/QuotedTextReader.h"
 

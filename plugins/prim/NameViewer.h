@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEVIEWER_H
-#define PRIM_NAMEVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_NAMEVIEWER_H
+#define VRK_PLUGINS_PRIM_NAMEVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_NAMEWRITER_H
-#define PRIM_NAMEWRITER_H
+#ifndef VRK_PLUGINS_PRIM_NAMEWRITER_H
+#define VRK_PLUGINS_PRIM_NAMEWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_NONNEGATIVEINTDATA_H
-#define PRIM_NONNEGATIVEINTDATA_H
+#ifndef VRK_PLUGINS_PRIM_NONNEGATIVEINTDATA_H
+#define VRK_PLUGINS_PRIM_NONNEGATIVEINTDATA_H
 
 #include "plugins/prim/IntData.h"
 #include "plugins/prim/NonNegativeIntEditor.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_NONNEGATIVEINTTYPE_H
-#define PRIM_NONNEGATIVEINTTYPE_H
+#ifndef VRK_PLUGINS_PRIM_NONNEGATIVEINTTYPE_H
+#define VRK_PLUGINS_PRIM_NONNEGATIVEINTTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/NonNegativeIntData.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_PATHEDITOR_H
-#define PRIM_PATHEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_PATHEDITOR_H
+#define VRK_PLUGINS_PRIM_PATHEDITOR_H
 
 #include "base/data/DataEditor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PATHFUNCTOR_H
-#define PRIM_PATHFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_PATHFUNCTOR_H
+#define VRK_PLUGINS_PRIM_PATHFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PATHVIEWER_H
-#define PRIM_PATHVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_PATHVIEWER_H
+#define VRK_PLUGINS_PRIM_PATHVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PATHWRITER_H
-#define PRIM_PATHWRITER_H
+#ifndef VRK_PLUGINS_PRIM_PATHWRITER_H
+#define VRK_PLUGINS_PRIM_PATHWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTDATA_H
-#define PRIM_PERCENTDATA_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTDATA_H
+#define VRK_PLUGINS_PRIM_PERCENTDATA_H
 
 #include "plugins/prim/DoubleData.h"
 #include "plugins/prim/PercentEditor.h"

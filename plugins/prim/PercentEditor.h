@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTEDITOR_H
-#define PRIM_PERCENTEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTEDITOR_H
+#define VRK_PLUGINS_PRIM_PERCENTEDITOR_H
 
 #include "base/data/DataEditor.h"
 

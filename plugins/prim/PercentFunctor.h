@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTFUNCTOR_H
-#define PRIM_PERCENTFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTFUNCTOR_H
+#define VRK_PLUGINS_PRIM_PERCENTFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTREADER_H
-#define PRIM_PERCENTREADER_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTREADER_H
+#define VRK_PLUGINS_PRIM_PERCENTREADER_H
 
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"

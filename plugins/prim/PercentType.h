@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTTYPE_H
-#define PRIM_PERCENTTYPE_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTTYPE_H
+#define VRK_PLUGINS_PRIM_PERCENTTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTVIEWER_H
-#define PRIM_PERCENTVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTVIEWER_H
+#define VRK_PLUGINS_PRIM_PERCENTVIEWER_H
 
 #include "base/data/DataViewer.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_PERCENTWRITER_H
-#define PRIM_PERCENTWRITER_H
+#ifndef VRK_PLUGINS_PRIM_PERCENTWRITER_H
+#define VRK_PLUGINS_PRIM_PERCENTWRITER_H
 
 #include "base/data/DataWriter.h"
 

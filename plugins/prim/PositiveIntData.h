@@ -1,5 +1,5 @@
-#ifndef PRIM_POSITIVEINTDATA_H
-#define PRIM_POSITIVEINTDATA_H
+#ifndef VRK_PLUGINS_PRIM_POSITIVEINTDATA_H
+#define VRK_PLUGINS_PRIM_POSITIVEINTDATA_H
 
 #include "plugins/prim/IntData.h"
 #include "plugins/prim/PositiveIntEditor.h"

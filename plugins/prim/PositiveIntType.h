@@ -1,5 +1,5 @@
-#ifndef PRIM_POSITIVEINTTYPE_H
-#define PRIM_POSITIVEINTTYPE_H
+#ifndef VRK_PLUGINS_PRIM_POSITIVEINTTYPE_H
+#define VRK_PLUGINS_PRIM_POSITIVEINTTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/IntType.h"

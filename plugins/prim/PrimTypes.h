@@ -1,5 +1,5 @@
-#ifndef PRIM_PRIMTYPES_H
-#define PRIM_PRIMTYPES_H
+#ifndef VRK_PLUGINS_PRIM_PRIMTYPES_H
+#define VRK_PLUGINS_PRIM_PRIMTYPES_H
 
 namespace Prim {
 

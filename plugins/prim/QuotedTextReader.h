@@ -1,5 +1,5 @@
-#ifndef PRIM_QUOTEDTEXTREADER_H
-#define PRIM_QUOTEDTEXTREADER_H
+#ifndef VRK_PLUGINS_PRIM_QUOTEDTEXTREADER_H
+#define VRK_PLUGINS_PRIM_QUOTEDTEXTREADER_H
 
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"

@@ -1,5 +1,5 @@
-#ifndef PRIM_REPEATFUNCTOR_H
-#define PRIM_REPEATFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_REPEATFUNCTOR_H
+#define VRK_PLUGINS_PRIM_REPEATFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

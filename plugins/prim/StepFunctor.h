@@ -1,5 +1,5 @@
-#ifndef PRIM_STEPFUNCTOR_H
-#define PRIM_STEPFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_STEPFUNCTOR_H
+#define VRK_PLUGINS_PRIM_STEPFUNCTOR_H
 
 #include "base/graph/Functor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_STRINGEDITOR_H
-#define PRIM_STRINGEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_STRINGEDITOR_H
+#define VRK_PLUGINS_PRIM_STRINGEDITOR_H
 
 #include "base/data/DataEditor.h"
 #include <string>

@@ -1,5 +1,5 @@
-#ifndef PRIM_STRINGFUNCTOR_H
-#define PRIM_STRINGFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_STRINGFUNCTOR_H
+#define VRK_PLUGINS_PRIM_STRINGFUNCTOR_H
 
 #include "plugins/prim/DataCarrierFunctor.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_STRINGREADER_H
-#define PRIM_STRINGREADER_H
+#ifndef VRK_PLUGINS_PRIM_STRINGREADER_H
+#define VRK_PLUGINS_PRIM_STRINGREADER_H
 
 #include "plugins/prim/QuotedTextReader.h"
 

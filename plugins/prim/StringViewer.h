@@ -1,5 +1,5 @@
-#ifndef PRIM_STRINGVIEWER_H
-#define PRIM_STRINGVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_STRINGVIEWER_H
+#define VRK_PLUGINS_PRIM_STRINGVIEWER_H
 
 #include "base/data/DataViewer.h"
 

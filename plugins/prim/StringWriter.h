@@ -1,5 +1,5 @@
-#ifndef PRIM_STRINGWRITER_H
-#define PRIM_STRINGWRITER_H
+#ifndef VRK_PLUGINS_PRIM_STRINGWRITER_H
+#define VRK_PLUGINS_PRIM_STRINGWRITER_H
 
 #include "base/data/DataWriter.h"
 

@@ -1,5 +1,5 @@
-#ifndef PRIM_WHILEFUNCTOR_H
-#define PRIM_WHILEFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_WHILEFUNCTOR_H
+#define VRK_PLUGINS_PRIM_WHILEFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

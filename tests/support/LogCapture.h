@@ -1,5 +1,5 @@
-#ifndef VRK_TESTS_LOGCAPTURE_H
-#define VRK_TESTS_LOGCAPTURE_H
+#ifndef VRK_TESTS_SUPPORT_LOGCAPTURE_H
+#define VRK_TESTS_SUPPORT_LOGCAPTURE_H
 
 #include "base/log/LogFilterHigherTags.h"
 #include "base/log/Logger.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_TESTS_PRIMREGISTRATION_H
-#define VRK_TESTS_PRIMREGISTRATION_H
+#ifndef VRK_TESTS_SUPPORT_PRIMREGISTRATION_H
+#define VRK_TESTS_SUPPORT_PRIMREGISTRATION_H
 
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/plugin/Plugin.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_TESTS_SCRIPTTEXT_H
-#define VRK_TESTS_SCRIPTTEXT_H
+#ifndef VRK_TESTS_SUPPORT_SCRIPTTEXT_H
+#define VRK_TESTS_SUPPORT_SCRIPTTEXT_H
 
 #include "base/script/Script.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DEFAULTSCRIPTACTIONS_H
-#define VRK_BASE_DEFAULTSCRIPTACTIONS_H
+#ifndef VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTACTIONS_H
+#define VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTACTIONS_H
 
 #include "base/parse/ScannerTypes.h"
 #include "base/util/ScriptPosition.h"

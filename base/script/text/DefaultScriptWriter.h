@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_DEFAULTSCRIPTWRITER_H
-#define VRK_BASE_DEFAULTSCRIPTWRITER_H
+#ifndef VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTWRITER_H
+#define VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTWRITER_H
 
 #include "base/script/ScriptWriter.h"
 #include "base/script/ScriptWritingPlan.h"
