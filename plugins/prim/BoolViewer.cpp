@@ -1,7 +1,7 @@
 #include "plugins/prim/BoolViewer.h"
 
-#include "plugins/prim/DataCast.h"
 #include "plugins/prim/BoolType.h"
+#include "plugins/prim/DataCast.h"
 
 namespace Prim {
 

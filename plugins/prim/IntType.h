@@ -3,6 +3,7 @@
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"
+#include "plugins/prim/IntData.h"
 
 namespace Prim {
 

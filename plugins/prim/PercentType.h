@@ -3,6 +3,7 @@
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/DoubleType.h"
+#include "plugins/prim/PercentData.h"
 
 namespace Prim {
 

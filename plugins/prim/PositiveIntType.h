@@ -3,6 +3,7 @@
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/IntType.h"
+#include "plugins/prim/PositiveIntData.h"
 
 namespace Prim {
 
