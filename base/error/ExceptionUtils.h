@@ -13,7 +13,13 @@ public:
     template <class E>
     [[noreturn]] static void raise(const std::string& message)
     {
-        E exception(message);
+        raise(E(message));
+    }
+
+    // The same for an exception already made, such as a parse error with its position.
+    template <class E>
+    [[noreturn]] static void raise(const E& exception)
+    {
         logThrow(exception);
         throw exception;
     }
@@ -24,8 +30,7 @@ public:
     {
         E exception(message);
         exception.setScriptPosition(position);
-        logThrow(exception);
-        throw exception;
+        raise(exception);
     }
 
     // The debug line that announces a thrown exception.

@@ -106,9 +106,7 @@ private:
     [[noreturn]] static void raiseAt(const std::string& message,
                                      const ParseError::Position& position)
     {
-        ParseError error(message, position);
-        ExceptionUtils::logThrow(error);
-        throw error;
+        ExceptionUtils::raise(ParseError(message, position));
     }
 
     std::string message_;

@@ -37,10 +37,8 @@ void ValueParser::read(DataEditor* editor, const std::string& typeName, const st
     reader->read(scan);
     scan.skip(scan);
     if (scan.first != last) {
-        ParseError error("Unexpected text after the value.",
-                         PlainTextOrigin::positionOf(scan.first));
-        ExceptionUtils::logThrow(error);
-        throw error;
+        ExceptionUtils::raise(
+            ParseError("Unexpected text after the value.", PlainTextOrigin::positionOf(scan.first)));
     }
 }
 

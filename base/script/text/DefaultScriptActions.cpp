@@ -40,9 +40,8 @@ ScriptPosition DefaultScriptActions::positionOf(const ScriptIterator& where)
 void DefaultScriptActions::raise(const ScriptIterator& where, const std::string& message) const
 {
     const ScriptFilePosition& position = where.get_position();
-    ParseError error(message, ParseError::Position(position.file, position.line, position.column));
-    ExceptionUtils::logThrow(error);
-    throw error;
+    ExceptionUtils::raise(
+        ParseError(message, ParseError::Position(position.file, position.line, position.column)));
 }
 
 void DefaultScriptActions::propertyName(const ScriptIterator& first, const ScriptIterator& last)
@@ -123,14 +122,14 @@ void DefaultScriptActions::beginContents(const ScriptIterator& first, const Scri
 
 void DefaultScriptActions::endContents(const ScriptIterator&, const ScriptIterator&)
 {
-    assert(!open_.empty() && "!open_.empty()");
+    assert(!open_.empty() && "contents close only after they open");
     open_.pop_back();
     builder_.endContents();
 }
 
 void DefaultScriptActions::unclosedContents(const ScriptIterator& first, const ScriptIterator&)
 {
-    assert(!open_.empty() && "!open_.empty()");
+    assert(!open_.empty() && "contents close only after they open");
     const OpenContents& open = open_.back();
     raise(first, "Expecting a functor name or \"}\" to close the contents of " + open.functor
                      + " opened at line " + std::to_string(open.position.line) + ", column "
@@ -144,16 +143,16 @@ void DefaultScriptActions::port(const ScriptIterator&, const ScriptIterator&)
 
 void DefaultScriptActions::reference(const ScriptIterator& first, const ScriptIterator& last)
 {
-    assert(port_ != 0 && "port_ != 0");
+    assert(port_ != 0 && "a binding names its input before its value");
     const std::string text = textOf(first, last);
     const size_t dot = text.find('.');
-    assert(dot != std::string::npos && "dot != std::string::npos");
+    assert(dot != std::string::npos && "the grammar matches references as alias.port");
     builder_.bind(*port_, text.substr(0, dot), text.substr(dot + 1), positionOf(first));
 }
 
 std::ptrdiff_t DefaultScriptActions::value(const ScriptScanner& scan)
 {
-    assert(port_ != 0 && "port_ != 0");
+    assert(port_ != 0 && "a binding names its input before its value");
     scan.skip(scan);
     auto reader = builder_.createValueReader<ScriptScanner>(*port_, ScriptScannerName,
                                                             positionOf(scan.first));
