@@ -12,8 +12,12 @@ namespace VRK {
 
 class Functor;
 
-// Flags of a data holder, by number; their meaning is the holder's.
+// Flags of a data holder, by number. The host's meanings of the numbers that plugins set:
 using DataHolderFlag = unsigned int;
+namespace DataHolderFlags {
+// Governs how a functor runs an outside process rather than feeding its computation.
+constexpr DataHolderFlag ProcessControl = 7;
+} // namespace DataHolderFlags
 
 // Holds at most one data object of its type: the base of ports, editors and viewers.
 class DataHolder : public Typeable, public Lockable {

@@ -22,8 +22,21 @@ namespace VRK {
 class ContainerFunctor;
 class FunctorContainer;
 
-// Flags of a functor, by number; their meaning is the functor's.
+// Flags of a functor, by number: what kind of functor it is, for tools that show or
+// arrange scripts. The host's meanings of the numbers that plugins set:
 using FunctorFlag = unsigned int;
+namespace FunctorFlags {
+// A registrator whose run does nothing: its value is collected by a selector.
+constexpr FunctorFlag PassiveRegistrator = 1;
+// Carries a typed-in or bound value unchanged to its output.
+constexpr FunctorFlag DataCarrier = 2;
+// Passes on its initial input on a loop's first pass and its feedback afterwards.
+constexpr FunctorFlag Multiplexer = 3;
+// Passes on whichever of its alternative inputs is bound.
+constexpr FunctorFlag Junction = 4;
+// Names a folder of the file system, or sets one for its contents.
+constexpr FunctorFlag Folder = 8;
+} // namespace FunctorFlags
 
 // An operator of a script: typed input and output ports and a run operation.
 // The order of the virtual operations below is part of the plugin interface.

@@ -16,7 +16,7 @@ DataCarrierFunctor::DataCarrierFunctor(const std::string& name, const std::strin
                                        const std::shared_ptr<VRK::BaseType>& type)
     : VRK::Functor(name, description, type)
 {
-    setFlag(2, true);
+    setFlag(VRK::FunctorFlags::DataCarrier, true);
 }
 
 DataCarrierFunctor::~DataCarrierFunctor() = default;

@@ -11,7 +11,7 @@ Folder::Folder()
 {
     addCarrierPorts(FolderType::getInstance(), "Data carrier for a folder, directory or zip file.",
                     "Object is a folder, directory or zip file.");
-    setFlag(8, true);
+    setFlag(VRK::FunctorFlags::Folder, true);
 }
 
 Folder::~Folder() = default;

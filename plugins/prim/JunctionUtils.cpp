@@ -16,7 +16,7 @@ void JunctionUtils::addPorts(VRK::Functor& junction, const Ports& ports,
     junction.addInputPort(
         std::make_shared<VRK::StrongInputPort>(ports.second, ports.inputDescription, type));
     junction.addOutputPort(ports.output, ports.outputDescription, type);
-    junction.setFlag(4, true);
+    junction.setFlag(VRK::FunctorFlags::Junction, true);
 }
 
 void JunctionUtils::logForwarded(const VRK::Functor& junction, const char* which)

@@ -18,7 +18,7 @@ MuxValue::MuxValue()
     addInputPort(std::make_shared<VRK::FeedbackStrongInputPort>(
         "feedback", "Value generated from model step.", DoubleType::getInstance()));
     addOutputPort("value", "Value.", DoubleType::getInstance());
-    setFlag(3, true);
+    setFlag(VRK::FunctorFlags::Multiplexer, true);
 }
 
 MuxValue::~MuxValue() = default;

@@ -188,7 +188,7 @@ TEST_F(ControlFlow, PortsDefaultsAndFlags)
     EXPECT_EQ(mux.getName(), "MuxValue");
     EXPECT_EQ(mux.getInputPort("first"), mux.getInputPort("initial"));
     EXPECT_TRUE(mux.getInputPort("feedback")->isFeedback());
-    EXPECT_TRUE(mux.getFlag(3));
+    EXPECT_TRUE(mux.getFlag(VRK::FunctorFlags::Multiplexer));
     ASSERT_NE(mux.getType(), nullptr);
     EXPECT_EQ(mux.getType()->getName(), "Multiplexer");
 

@@ -79,8 +79,8 @@ TEST(DataCarrier, PassesTheVeryDataObjectOfItsConstantOn)
     ASSERT_TRUE(object->hasData());
     EXPECT_EQ(object->getDataPtr(), carrier.getInputPort("constant")->getDataPtr());
     EXPECT_EQ(outputValue<Prim::IntData>(carrier, "object"), 42);
-    EXPECT_TRUE(carrier.getFlag(2));
-    EXPECT_FALSE(carrier.getFlag(8));
+    EXPECT_TRUE(carrier.getFlag(VRK::FunctorFlags::DataCarrier));
+    EXPECT_FALSE(carrier.getFlag(VRK::FunctorFlags::Folder));
     EXPECT_EQ(carrier.getInputPort("constant")->getType(),
               carrier.getOutputPort("object")->getType());
 }
@@ -110,8 +110,8 @@ TEST(DataCarrier, BannerIsTypeNameAndValueCutToFiftyCharacters)
 TEST(DataCarrier, FolderShowsItsFolderAsFilenameBanner)
 {
     Prim::Folder folder;
-    EXPECT_TRUE(folder.getFlag(2));
-    EXPECT_TRUE(folder.getFlag(8));
+    EXPECT_TRUE(folder.getFlag(VRK::FunctorFlags::DataCarrier));
+    EXPECT_TRUE(folder.getFlag(VRK::FunctorFlags::Folder));
     constantEditor<Prim::FolderEditor>(folder).setFilename("reports", true);
     ASSERT_TRUE(folder.hasBanner());
     std::ostringstream printed;
@@ -125,7 +125,7 @@ TEST(DataCarrier, FolderShowsItsFolderAsFilenameBanner)
 TEST(Junction, FirstInputWinsAndOnlyItsLineIsLogged)
 {
     Prim::ValueJunction junction;
-    EXPECT_TRUE(junction.getFlag(4));
+    EXPECT_TRUE(junction.getFlag(VRK::FunctorFlags::Junction));
     EXPECT_FALSE(junction.getInputPort("possibleValue1")->hasDataEditor());
     JunctionBed bed;
     auto first = std::make_shared<const Prim::DoubleData>(1.5);

@@ -157,7 +157,7 @@ TEST(PrimRegistrar, ThePluginsOldNamesBuildTheSameClasses)
     auto folder = factory->create("Folder");
     auto copy = VRK::FactoryFarmManager::Instance().getFunctorCloneFactory()->create(*folder);
     EXPECT_NE(dynamic_cast<Prim::Folder*>(copy.get()), nullptr);
-    EXPECT_TRUE(copy->getFlag(8));
+    EXPECT_TRUE(copy->getFlag(VRK::FunctorFlags::Folder));
 }
 
 TEST(CloneFactories, CopyByRunTimeClass)
