@@ -1,7 +1,11 @@
-# Fails when a folder of base/ includes a folder above it, or when base/ or tessaly/
-# includes a plugin. Run as a script: cmake -DSOURCE_DIR=... -DSTAMP=... -P CheckLayers.cmake
+# Fails when a folder of base/ includes a folder above it, when base/ or tessaly/
+# includes a plugin, or when a plugin or an application includes a header of base/ marked
+# "Internal to the host library". Run as a script:
+#   cmake -DSOURCE_DIR=... -DSTAMP=... -P CheckLayers.cmake
 #
 # The layers of base/, lowest first. A folder may include its own layer and those below.
+cmake_minimum_required(VERSION 3.25)
+
 set(LAYERS util log error task plugin data parse graph run script verify)
 
 function(layer_of path result)
@@ -41,6 +45,30 @@ foreach(source IN LISTS sources)
             list(GET LAYERS ${theirs} theirName)
             string(APPEND violations "\n  ${source} includes ${included}: "
                                      "the ${ownName} layer sits below the ${theirName} layer.")
+        endif()
+    endforeach()
+endforeach()
+
+# Headers that only the host library itself may include.
+set(internal "")
+foreach(source IN LISTS sources)
+    if(source MATCHES "^base/.*\\.h$")
+        file(STRINGS "${SOURCE_DIR}/${source}" marker REGEX "^// Internal to the host library")
+        if(marker)
+            list(APPEND internal "${source}")
+        endif()
+    endif()
+endforeach()
+file(GLOB_RECURSE clients RELATIVE "${SOURCE_DIR}"
+     "${SOURCE_DIR}/plugins/*.h" "${SOURCE_DIR}/plugins/*.cpp"
+     "${SOURCE_DIR}/apps/*.h" "${SOURCE_DIR}/apps/*.cpp")
+foreach(client IN LISTS clients)
+    file(STRINGS "${SOURCE_DIR}/${client}" includes REGEX "^#include \"base/")
+    foreach(line IN LISTS includes)
+        string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" included "${line}")
+        if(included IN_LIST internal)
+            string(APPEND violations "\n  ${client} includes ${included}, "
+                                     "which is internal to the host library.")
         endif()
     endforeach()
 endforeach()

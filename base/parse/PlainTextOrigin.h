@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_PARSE_PLAINTEXTORIGIN_H
 #define VRK_BASE_PARSE_PLAINTEXTORIGIN_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/parse/ParseError.h"
 
 namespace VRK {

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_RUN_LIGHTRUNGUARD_H
 #define VRK_BASE_RUN_LIGHTRUNGUARD_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 namespace VRK {
 
 class Functor;

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_RUN_PARALLELPASS_H
 #define VRK_BASE_RUN_PARALLELPASS_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/log/LogTag.h"
 
 #include <tbb/task_group.h>

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_RUN_RUNCONTEXT_H
 #define VRK_BASE_RUN_RUNCONTEXT_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/run/ContainerPlan.h"
 #include "base/task/Task.h"
 

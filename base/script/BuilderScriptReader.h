@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_SCRIPT_BUILDERSCRIPTREADER_H
 #define VRK_BASE_SCRIPT_BUILDERSCRIPTREADER_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/script/ScriptReader.h"
 
 #include <istream>

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTGRAMMAR_H
 #define VRK_BASE_SCRIPT_TEXT_DEFAULTSCRIPTGRAMMAR_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/parse/ScannerTypes.h"
 
 #include <boost/spirit/include/classic_core.hpp>

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_SCRIPT_XML_XMLSCRIPTPARSER_H
 #define VRK_BASE_SCRIPT_XML_XMLSCRIPTPARSER_H
 
+// Internal to the host library: plugins and applications do not include it.
+
 #include "base/util/ScriptPosition.h"
 
 #include <pugixml.hpp>
