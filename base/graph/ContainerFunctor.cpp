@@ -121,7 +121,7 @@ void ContainerFunctor::onIndirectContainerErased(size_t depth)
 
 bool ContainerFunctor::isCompatible(Functor* functor) const
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "isCompatible is asked about a functor");
     return true;
 }
 

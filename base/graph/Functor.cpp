@@ -158,7 +158,7 @@ void Functor::addInputPort(const InputPort& port, const std::vector<std::string>
 void Functor::addInputPort(const std::shared_ptr<InputPort>& port,
                            const std::vector<std::string>& aliases)
 {
-    assert(port != 0 && "port != 0");
+    assert(port != 0 && "a functor declares a port it has made");
     adoptInputPort(port, aliases);
 }
 
@@ -237,14 +237,14 @@ bool Functor::getFlag(FunctorFlag flag) const
 InputPort& Functor::requireInputPort(const std::string& name) const
 {
     InputPort* port = getInputPort(name);
-    assert(port != 0 && "port != 0");
+    assert(port != 0 && "the functor declares the input it asks for");
     return *port;
 }
 
 OutputPort& Functor::requireOutputPort(const std::string& name) const
 {
     OutputPort* port = getOutputPort(name);
-    assert(port != 0 && "port != 0");
+    assert(port != 0 && "the functor declares the output it asks for");
     return *port;
 }
 

@@ -15,7 +15,7 @@ FunctorContainer::FunctorIterator::FunctorIterator(std::vector<Functor*> functor
 
 Functor* FunctorContainer::FunctorIterator::next() const
 {
-    assert(hasNext() && "hasNext()");
+    assert(hasNext() && "next() is called only while hasNext() holds");
     return functors_[index_++];
 }
 
@@ -33,7 +33,7 @@ Functor* FunctorContainer::createFunctor(const std::string& name, bool notify)
 
 void FunctorContainer::transferFunctor(Functor* functor, bool notify)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "a container is handed a functor");
     FunctorContainer* source = functor->getContainer();
     assert(source != 0 && "functor->getContainer() != 0");
     std::shared_ptr<Functor> keep = source->getSharedFunctor(functor);
@@ -43,7 +43,7 @@ void FunctorContainer::transferFunctor(Functor* functor, bool notify)
 
 void FunctorContainer::addFunctor(const std::shared_ptr<Functor>& functor, bool notify)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "a container is handed a functor");
     functors_.push_back(functor);
     functor->setContainer(this);
     const Functor* self = asFunctor();
@@ -113,7 +113,7 @@ void FunctorContainer::clear()
 
 Functor* FunctorContainer::copyFunctor(Functor* functor, bool notify)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "a container is handed a functor");
     std::shared_ptr<Functor> copy =
         FactoryFarmManager::Instance().getFunctorCloneFactory()->create(*functor);
     addFunctor(copy, notify);

@@ -17,13 +17,13 @@ std::string makeFunctorAlias(const std::string& name, int number)
 
 void updateFunctorAlias(const std::shared_ptr<Functor>& functor, int number)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "the update is applied to a functor");
     functor->setAlias(makeFunctorAlias(functor->getName(), number));
 }
 
 void updateFunctorPortOwner(const std::shared_ptr<Functor>& functor)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "the update is applied to a functor");
     for (const auto& port : functor->getInputPorts())
         port->setOwner(functor.get());
     for (const auto& port : functor->getOutputPorts())

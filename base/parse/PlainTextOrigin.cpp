@@ -12,7 +12,7 @@ thread_local const char* textStart = nullptr;
 
 PlainTextOrigin::PlainTextOrigin(const char* start) : marked_(textStart == nullptr)
 {
-    assert(start != 0 && "start != 0");
+    assert(start != 0 && "the origin marks a text");
     if (marked_)
         textStart = start;
 }
@@ -25,8 +25,8 @@ PlainTextOrigin::~PlainTextOrigin()
 
 ParseError::Position PlainTextOrigin::positionOf(const char* where)
 {
-    assert(textStart != 0 && "textStart != 0");
-    assert(where >= textStart && "where >= textStart");
+    assert(textStart != 0 && "positions are asked for while a text is marked");
+    assert(where >= textStart && "the position lies inside the marked text");
     return ParseError::Position(std::string(), 1, 1 + static_cast<int>(where - textStart));
 }
 

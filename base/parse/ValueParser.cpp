@@ -16,18 +16,18 @@ namespace VRK {
 
 void ValueParser::read(DataEditor* editor, const std::string& text)
 {
-    assert(editor != 0 && "editor != 0");
-    assert(editor->getType() != 0 && "editor->getType() != 0");
+    assert(editor != 0 && "a value is read into an editor");
+    assert(editor->getType() != 0 && "the editor knows the type of its values");
     read(editor, editor->getType()->getName(), text);
 }
 
 void ValueParser::read(DataEditor* editor, const std::string& typeName, const std::string& text)
 {
-    assert(editor != 0 && "editor != 0");
+    assert(editor != 0 && "a value is read into an editor");
     auto factory =
         FactoryFarmManager::Instance().getDataReaderFactory<PlainScanner>(PlainScannerName);
     std::unique_ptr<DataReader<PlainScanner>> reader(factory->create(typeName, editor));
-    assert(reader != 0 && "reader != 0");
+    assert(reader != 0 && "the reader factory makes a reader or throws");
 
     const char* first = text.data();
     const char* const last = first + text.size();

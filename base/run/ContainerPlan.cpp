@@ -59,7 +59,7 @@ void ContainerPlan::collectFeedback(const FunctorContainer& inner)
             if (!port->isFeedback() || !port->isBound() || closingContainer(*port) != &container_)
                 continue;
             auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get());
-            assert(feedback != 0 && "feedback != 0");
+            assert(feedback != 0 && "a feedback input is a FeedbackStrongInputPort");
             feedback_.push_back(feedback);
         }
     });

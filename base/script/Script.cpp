@@ -107,7 +107,7 @@ void Script::verify()
 
 void Script::runLight(Functor* functor)
 {
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "a functor is given to run");
     if (hasProduced(*functor) || LightRunGuard::isRunning(functor))
         return;
     LightRunGuard guard(functor);

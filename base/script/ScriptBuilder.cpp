@@ -70,7 +70,7 @@ Functor& ScriptBuilder::beginFunctor(const std::string& name, const std::string&
         ExceptionUtils::raiseAt<ParseError>(position, unknownFunctorMessage(name));
     Frame& frame = frames_.back();
     Functor* functor = frame.container->createFunctor(name, true);
-    assert(functor != 0 && "functor != 0");
+    assert(functor != 0 && "a registered name makes a functor");
     functor->setPosition(position);
     frame.current = functor;
     frame.given.clear();

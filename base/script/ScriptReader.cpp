@@ -8,13 +8,13 @@ ScriptReader::~ScriptReader() = default;
 
 void ScriptReader::read(Script* script, std::istream& in, const std::string& filename)
 {
-    assert(script != 0 && "script != 0");
+    assert(script != 0 && "a script is given to read into");
     readImpl(script, in, filename);
 }
 
 void ScriptReader::readProperties(Script* script, std::istream& in, const std::string& filename)
 {
-    assert(script != 0 && "script != 0");
+    assert(script != 0 && "a script is given to read into");
     readPropertiesImpl(script, in, filename);
 }
 

@@ -8,7 +8,7 @@ ScriptVerifier::~ScriptVerifier() = default;
 
 void ScriptVerifier::verify(Script* script)
 {
-    assert(script != 0 && "script != 0");
+    assert(script != 0 && "a script is given to verify");
     verifyImpl(script);
 }
 

@@ -8,13 +8,13 @@ ScriptWriter::~ScriptWriter() = default;
 
 void ScriptWriter::checkCompatibility(Script* script, const std::string& filename)
 {
-    assert(script != 0 && "script != 0");
+    assert(script != 0 && "a script is given to write");
     checkCompatibilityImpl(script, filename);
 }
 
 void ScriptWriter::write(Script* script, std::ostream& out, const std::string& filename)
 {
-    assert(script != 0 && "script != 0");
+    assert(script != 0 && "a script is given to write");
     writeImpl(script, out, filename);
 }
 

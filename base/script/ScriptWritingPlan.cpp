@@ -162,7 +162,7 @@ std::string ScriptWritingPlan::getAlias(const Functor& functor) const
 
 std::string ScriptWritingPlan::getReference(const InputPort& port) const
 {
-    assert(isWrittenBinding(port) && "isWrittenBinding(port)");
+    assert(isWrittenBinding(port) && "references are written only for the bindings the plan writes");
     const DataHolder* peer = port.getPeer();
     const std::string alias = getAlias(*peer->getOwner());
     assert(!alias.empty() && "every referenced functor has an alias");
@@ -171,7 +171,7 @@ std::string ScriptWritingPlan::getReference(const InputPort& port) const
 
 std::string ScriptWritingPlan::getValueText(const InputPort& port)
 {
-    assert(port.hasDataEditor() && "port.hasDataEditor()");
+    assert(port.hasDataEditor() && "values are written only for ports with an editor");
     auto factory = FactoryFarmManager::Instance().getDataWriterFactory();
     std::unique_ptr<DataWriter> writer(
         factory->create(port.getType()->getName(), port.getDataEditor()));

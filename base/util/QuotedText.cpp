@@ -21,7 +21,7 @@ std::string QuotedText::quote(const std::string& text)
 
 std::string QuotedText::unquote(const std::string& quoted)
 {
-    assert(quoted.size() >= 2 && "quoted.size() >= 2");
+    assert(quoted.size() >= 2 && "the quoted text includes both its quotes");
     const size_t end = quoted.size() - 1;
     std::string text;
     for (size_t i = 1; i < end; ++i) {

@@ -18,7 +18,7 @@ DefaultScriptWriter::DefaultScriptWriter(int indentWidth, bool writeProperties,
     , writeProperties_(writeProperties)
     , separateTopLevel_(separateTopLevel)
 {
-    assert(indentWidth >= 0 && "indentWidth >= 0");
+    assert(indentWidth >= 0 && "the indentation is not negative");
     planOptions_.writeUnsetValues = writeUnsetValues;
     planOptions_.writeAllAliases = writeAllAliases;
     planOptions_.writeHostBindings = writeHostBindings;
