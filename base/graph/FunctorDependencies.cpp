@@ -19,7 +19,7 @@ void forEachInputWithin(const Functor& functor, const std::function<void(const I
 {
     for (const auto& port : functor.getInputPorts())
         visit(*port);
-    auto* container = dynamic_cast<const ContainerFunctor*>(&functor);
+    auto* container = functor.asContainer();
     if (!container)
         return;
     for (const auto& port : container->getInternalInputPorts())

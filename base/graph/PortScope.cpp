@@ -6,13 +6,13 @@ namespace VRK {
 
 bool PortScope::isInternalInput(const InputPort& port)
 {
-    auto* owner = dynamic_cast<const ContainerFunctor*>(port.getOwner());
+    const ContainerFunctor* owner = port.getOwner() ? port.getOwner()->asContainer() : nullptr;
     return owner && owner->getInternalInputPort(port.getName()) == &port;
 }
 
 bool PortScope::isInternalOutput(const DataHolder& port)
 {
-    auto* owner = dynamic_cast<const ContainerFunctor*>(port.getOwner());
+    const ContainerFunctor* owner = port.getOwner() ? port.getOwner()->asContainer() : nullptr;
     return owner && owner->getInternalOutputPort(port.getName()) == &port;
 }
 
@@ -22,7 +22,7 @@ FunctorContainer* PortScope::getReadingContainer(const InputPort& port)
     if (!owner)
         return nullptr;
     if (isInternalInput(port))
-        return dynamic_cast<ContainerFunctor*>(owner);
+        return owner->asContainer();
     return owner->getContainer();
 }
 
@@ -39,7 +39,7 @@ std::vector<InputPort*> PortScope::getAllInputs(const Functor& functor)
     std::vector<InputPort*> inputs;
     for (const auto& port : functor.getInputPorts())
         inputs.push_back(port.get());
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+    if (auto* container = functor.asContainer())
         for (const auto& port : container->getInternalInputPorts())
             inputs.push_back(port.get());
     return inputs;

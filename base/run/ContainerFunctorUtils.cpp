@@ -79,7 +79,7 @@ void ContainerFunctorUtils::runPass(const FunctorContainer& container, LogTag ta
 
 void ContainerFunctorUtils::runFunctor(Functor& functor, LogTag tag)
 {
-    runFunctor(functor, dynamic_cast<ContainerFunctor*>(&functor), tag);
+    runFunctor(functor, functor.asContainer(), tag);
 }
 
 void ContainerFunctorUtils::runFunctor(Functor& functor, ContainerFunctor* container, LogTag tag)

@@ -118,7 +118,7 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
 void ScriptBuilder::beginContents(const ScriptPosition& position)
 {
     Functor& functor = getCurrentFunctor();
-    auto* container = dynamic_cast<ContainerFunctor*>(&functor);
+    auto* container = functor.asContainer();
     if (!container)
         ExceptionUtils::raiseAt<ParseError>(position, "The functor "
                                                           + FunctorNameUtils::describe(functor)
@@ -145,7 +145,7 @@ InputPort& ScriptBuilder::findInput(const Functor& functor, const std::string& n
 {
     InputPort* port = functor.getInputPort(name);
     if (!port)
-        if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+        if (auto* container = functor.asContainer())
             port = container->getInternalInputPort(name);
     if (!port)
         ExceptionUtils::raiseAt<ParseError>(position, unknownPortMessage(functor, name));
@@ -242,7 +242,7 @@ void ScriptBuilder::resolve(const PendingBinding& binding) const
 OutputPort* ScriptBuilder::findOutput(const Functor& peer, const std::string& name,
                                       const InputPort& reader)
 {
-    auto* container = dynamic_cast<const ContainerFunctor*>(&peer);
+    auto* container = peer.asContainer();
     OutputPort* output = peer.getOutputPort(name);
     OutputPort* internal = container ? container->getInternalOutputPort(name) : nullptr;
     // Seen from inside a container its internal outputs come first.
@@ -256,7 +256,7 @@ std::string ScriptBuilder::unknownOutputMessage(const Functor& functor, const st
     std::vector<const OutputPort*> outputs;
     for (const auto& port : functor.getOutputPorts())
         outputs.push_back(port.get());
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+    if (auto* container = functor.asContainer())
         for (const auto& port : container->getInternalOutputPorts())
             outputs.push_back(port.get());
     std::string message = "The functor " + FunctorNameUtils::describe(functor) + " has no output "

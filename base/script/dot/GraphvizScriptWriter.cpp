@@ -76,7 +76,7 @@ void GraphvizScriptWriter::writeNode(const Functor& functor, const NodeIds& ids,
                                      std::ostream& out)
 {
     const std::string& id = ids.at(&functor);
-    auto* container = dynamic_cast<const ContainerFunctor*>(&functor);
+    auto* container = functor.asContainer();
     if (!container) {
         indent(out, depth) << id << " [label = " << quote(label(functor)) << "];\n";
         return;

@@ -69,7 +69,7 @@ void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWriti
         out << alias << " := ";
     out << functor.getName();
     writeInputs(functor, plan, out);
-    auto* container = dynamic_cast<const ContainerFunctor*>(&functor);
+    auto* container = functor.asContainer();
     if (!container) {
         out << ";\n";
         return;

@@ -44,7 +44,7 @@ void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWr
         element.append_attribute("alias") = alias.c_str();
     appendProperties(element, functor.getProperties());
     appendInputs(element, functor, plan);
-    if (auto* container = dynamic_cast<const ContainerFunctor*>(&functor))
+    if (auto* container = functor.asContainer())
         for (const auto& inner : container->getFunctors())
             appendFunctor(element, *inner, plan);
 }
