@@ -1,6 +1,7 @@
 #include "base/log/Logger.h"
 
 #include "base/log/LogFilterHigherTags.h"
+#include "base/log/OrderedLog.h"
 
 #include <algorithm>
 #include <mutex>
@@ -63,6 +64,11 @@ void Logger::log(LogTag tag, const std::string& text, bool force)
 {
     if (!force && !isLogging(tag))
         return;
+    OrderedLog::write(tag, text);
+}
+
+void Logger::writeToSinks(LogTag tag, const std::string& text)
+{
     std::lock_guard<std::mutex> lock(sharedState().mutex);
     for (const auto& sink : sharedState().sinks)
         sink->write(tag, text);

@@ -24,7 +24,11 @@ public:
 
     bool isLogging(LogTag tag) const;
     // Writes the line when the main filter keeps its tag, or always when `force` holds.
+    // The line goes to the ordered log of the work this thread does, if any (lines of
+    // work that runs at once come out in the order of the work), else to the sinks.
     void log(LogTag tag, const std::string& text, bool force = false);
+    // Writes the line to every sink at once.
+    static void writeToSinks(LogTag tag, const std::string& text);
 
     void setMainFilter(const std::shared_ptr<LogFilter>& filter);
     std::shared_ptr<LogFilter> getMainFilter() const;

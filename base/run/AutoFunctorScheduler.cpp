@@ -16,33 +16,38 @@ AutoFunctorScheduler::AutoFunctorScheduler(const AutoFunctorScheduler&) : Functo
 AutoFunctorScheduler::~AutoFunctorScheduler() = default;
 
 namespace {
-const double SlowPassSeconds = 0.001;
-}
+// A pass in order that takes this long repays the pool's cost of starting its
+// independent functors on other threads; a pass on the pool that takes less than the
+// second figure runs faster in order again. The gap keeps a pass near either figure from
+// switching at every run.
+const double ParallelFromSeconds = 0.001;
+const double InOrderBelowSeconds = 0.0002;
+} // namespace
 
 void AutoFunctorScheduler::scheduleImpl()
 {
     schedule_ = PassSchedule(FunctorDependencies(*getContainer()));
-    lastPassSeconds_ = 0;
-}
-
-// Decided at every pass: a processor policy may change the count between passes.
-bool AutoFunctorScheduler::isWorthParallel() const
-{
-    return ProcessorManager::Instance().getEffectiveProcessorCount() > 1
-           && schedule_.hasIndependentFunctors()
-           && (schedule_.holdsContainer() || lastPassSeconds_ >= SlowPassSeconds);
+    // Before any measure, a container among independent functors (a loop or a block,
+    // whose contents run inside it) is the sign of work worth sharing out.
+    parallel_ = schedule_.holdsContainer();
 }
 
 void AutoFunctorScheduler::runImpl()
 {
-    if (isWorthParallel()) {
-        ParallelPass(schedule_, getLogTag()).run();
+    // Decided at every pass: a processor policy may change the count between passes.
+    if (!schedule_.hasIndependentFunctors()
+        || ProcessorManager::Instance().getEffectiveProcessorCount() <= 1) {
+        schedule_.runInOrder(getLogTag());
         return;
     }
     const auto start = std::chrono::steady_clock::now();
-    schedule_.runInOrder(getLogTag());
-    lastPassSeconds_ =
+    if (parallel_)
+        ParallelPass(schedule_, getLogTag()).run();
+    else
+        schedule_.runInOrder(getLogTag());
+    const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    parallel_ = seconds >= (parallel_ ? InOrderBelowSeconds : ParallelFromSeconds);
 }
 
 Functor* AutoFunctorScheduler::getScheduledFunctorImpl(size_t index)

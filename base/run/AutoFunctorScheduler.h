@@ -6,12 +6,13 @@
 
 namespace VRK {
 
-// Picks, for each pass over a container, the parallel or the sequential scheduler. It
-// runs in parallel only when more than one processor may be used, some contents are
-// independent of each other, and there is work enough to repay the pool: one of the
-// contents is a container (a loop or a block, whose contents run inside it), or the
-// last pass over the container took a millisecond or more. Small plain functors, a
-// loop body of carriers and steps, run faster one after the other.
+// Picks, for each pass over a container, the pool or the order, by measured work. Only
+// a pass with independent contents and more than one processor to use can go to the
+// pool. The first pass goes there when one of the contents is a container (a loop or a
+// block, whose contents run inside it); after that each pass is timed: a pass in order
+// of a millisecond or more sends the next one to the pool, and a pass on the pool under
+// a fifth of that sends the next one back. Small plain functors, a loop body of carriers
+// and steps, run faster one after the other.
 class AutoFunctorScheduler : public FunctorScheduler {
 public:
     AutoFunctorScheduler();
@@ -25,10 +26,9 @@ protected:
     size_t getScheduledFunctorCountImpl() override;
 
 private:
-    bool isWorthParallel() const;
-
     PassSchedule schedule_;
-    double lastPassSeconds_ = 0;
+    // How the next pass runs: on the pool, or in order.
+    bool parallel_ = false;
 };
 
 } // namespace VRK

@@ -86,6 +86,9 @@ void ContainerFunctorUtils::runFunctor(Functor& functor, ContainerFunctor* conta
 {
     try {
         RunContext* context = RunContext::getCurrent();
+        if (context)
+            context->getTask().checkCancellation();
+        RunContext::forgetFailureNote();
         if (container && context)
             context->getPlan(*container).clearFeedback();
         functor.Functor::preparePorts();

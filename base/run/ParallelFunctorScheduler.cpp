@@ -1,6 +1,7 @@
 #include "base/run/ParallelFunctorScheduler.h"
 
 #include "base/run/ParallelPass.h"
+#include "base/task/ProcessorManager.h"
 
 namespace VRK {
 
@@ -15,7 +16,8 @@ ParallelFunctorScheduler::~ParallelFunctorScheduler() = default;
 
 void ParallelFunctorScheduler::runImpl()
 {
-    if (!getSchedule().hasIndependentFunctors()) {
+    if (!getSchedule().hasIndependentFunctors()
+        || ProcessorManager::Instance().getEffectiveProcessorCount() <= 1) {
         getSchedule().runInOrder(getLogTag());
         return;
     }

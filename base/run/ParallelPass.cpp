@@ -4,15 +4,21 @@
 #include "base/log/LoggerInitializer.h"
 #include "base/run/ContainerFunctorUtils.h"
 #include "base/run/PassSchedule.h"
-#include "base/run/RunContext.h"
+#include "base/task/BranchCancellation.h"
+#include "base/task/BranchStopScope.h"
+#include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
+#include "base/task/TaskCancellation.h"
 
 namespace VRK {
 
 ParallelPass::ParallelPass(const PassSchedule& schedule, LogTag tag)
     : order_(schedule.getOrder()), containers_(schedule.getContainers()), tag_(tag),
-      remaining_(schedule.size()), successors_(schedule.size()), context_(RunContext::getCurrent()),
-      task_(Task::getCurrentTask()), filter_(Logger::getCurrentThreadLogger()->getMainFilter())
+      remaining_(schedule.size()), successors_(schedule.size()),
+      context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
+      filter_(Logger::getCurrentThreadLogger()->getMainFilter()),
+      processors_(ProcessorManager::Instance().getProcessorCount()),
+      outerStop_(BranchStopScope::current()), stopped_(schedule.size()), log_(schedule.size())
 {
     const auto& waits = schedule.getWaits();
     for (size_t position = 0; position < schedule.size(); ++position) {
@@ -34,8 +40,7 @@ void ParallelPass::run()
     for (size_t root : roots)
         start(root);
     group_.wait();
-    if (error_)
-        std::rethrow_exception(error_);
+    rethrow();
 }
 
 void ParallelPass::start(size_t position)
@@ -45,8 +50,18 @@ void ParallelPass::start(size_t position)
 
 void ParallelPass::runOnWorker(size_t position)
 {
-    if (failed_.load())
+    // A run in order would not have reached a functor after one that failed.
+    const bool succeeded = position < failedPosition_.load() && runFunctor(position);
+    log_.finish(position);
+    if (!succeeded)
         return;
+    for (size_t successor : successors_[position])
+        if (--remaining_[successor] == 0)
+            start(successor);
+}
+
+bool ParallelPass::runFunctor(size_t position)
+{
     std::unique_ptr<RunContext::Activation> context;
     std::unique_ptr<Task::Activation> task;
     if (context_)
@@ -54,23 +69,47 @@ void ParallelPass::runOnWorker(size_t position)
     else
         task = std::make_unique<Task::Activation>(task_);
     LoggerInitializer logger(filter_);
+    Processor::BranchScope processors(processors_);
+    BranchStopScope stop(stopped_[position], outerStop_);
+    OrderedLog::Writing writing(log_, position);
     try {
         ContainerFunctorUtils::runFunctor(*order_[position], containers_[position], tag_);
+        return true;
+    } catch (const BranchCancellation&) {
+        // Stopped by a failure before this functor, or by one outside the pass.
+        if (outerStop_ && outerStop_->isStopped())
+            stoppedFromOutside_.store(true);
+    } catch (const TaskCancellation&) {
+        // The task says so to every branch; `rethrow` throws it on.
     } catch (...) {
-        fail(std::current_exception());
-        return;
+        fail(position, std::current_exception());
     }
-    for (size_t successor : successors_[position])
-        if (--remaining_[successor] == 0)
-            start(successor);
+    return false;
 }
 
-void ParallelPass::fail(std::exception_ptr error)
+void ParallelPass::fail(size_t position, std::exception_ptr error)
 {
     std::lock_guard<std::mutex> lock(errorMutex_);
-    if (!error_)
-        error_ = error;
-    failed_.store(true);
+    if (position >= failedPosition_.load())
+        return;
+    failedPosition_.store(position);
+    error_ = error;
+    note_ = RunContext::takeFailureNote();
+    log_.dropFrom(position + 1);
+    for (size_t later = position + 1; later < stopped_.size(); ++later)
+        stopped_[later].store(true);
+}
+
+void ParallelPass::rethrow()
+{
+    if (task_ && task_->isCancelled())
+        throw TaskCancellation();
+    if (stoppedFromOutside_.load())
+        throw BranchCancellation();
+    if (error_) {
+        RunContext::restoreFailureNote(std::move(note_));
+        std::rethrow_exception(error_);
+    }
 }
 
 } // namespace VRK

@@ -12,6 +12,7 @@ namespace VRK {
 namespace {
 
 thread_local RunContext* currentContext = nullptr;
+thread_local RunContext::FailureNote failureNote;
 
 std::atomic<unsigned long> runSerials{0};
 
@@ -73,25 +74,24 @@ ContainerPlan& RunContext::findOrMakePlan(const FunctorContainer& container)
 
 bool RunContext::noteFailure(const Functor& functor, const std::string& message)
 {
-    std::lock_guard<std::mutex> lock(mutex_);
-    if (failedFunctor_ && failureMessage_ == message && isInside(failedFunctor_, functor))
+    if (failureNote.functor && failureNote.message == message
+        && isInside(failureNote.functor, functor))
         return false;
-    failedFunctor_ = &functor;
-    failureMessage_ = message;
+    failureNote = FailureNote{&functor, message};
+    failed_.store(true);
     return true;
 }
 
-const Functor* RunContext::getFailedFunctor() const
+RunContext::FailureNote RunContext::takeFailureNote()
 {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return failedFunctor_;
+    FailureNote note = std::move(failureNote);
+    failureNote.functor = nullptr;
+    return note;
 }
 
-std::string RunContext::getFailureMessage() const
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return failureMessage_;
-}
+void RunContext::forgetFailureNote() { failureNote.functor = nullptr; }
+
+void RunContext::restoreFailureNote(FailureNote note) { failureNote = std::move(note); }
 
 RunContext* RunContext::getCurrent() { return currentContext; }
 

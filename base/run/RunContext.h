@@ -6,6 +6,7 @@
 #include "base/run/ContainerPlan.h"
 #include "base/task/Task.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -38,13 +39,24 @@ public:
     // all queue for the run's lock.
     ContainerPlan& getPlan(const FunctorContainer& container);
 
+    // Which functor a failure that travels up this thread's stack is laid on: the
+    // innermost that it left. It travels with the error from thread to thread, as the
+    // parallel pass hands the error on.
+    struct FailureNote {
+        const Functor* functor = nullptr;
+        std::string message;
+    };
     // Lays the failure on `functor`, unless the same failure already lies on a functor
     // inside it (a failure travels outwards through every enclosing container). True
     // when this call laid it.
     bool noteFailure(const Functor& functor, const std::string& message);
-    // The innermost functor that failed, if any, and its message.
-    const Functor* getFailedFunctor() const;
-    std::string getFailureMessage() const;
+    // Whether any thread of the run has noted a failure.
+    bool hasFailure() const { return failed_.load(); }
+    // This thread's note, and forgetting it: a new functor starts.
+    static FailureNote takeFailureNote();
+    static void forgetFailureNote();
+    // Makes `note` this thread's, as the error it belongs to is thrown on here.
+    static void restoreFailureNote(FailureNote note);
 
     // The context of the run this thread works on; none outside a run.
     static RunContext* getCurrent();
@@ -71,8 +83,7 @@ private:
     SchedulerMaker makeScheduler_;
     mutable std::mutex mutex_;
     std::unordered_map<const FunctorContainer*, std::unique_ptr<ContainerPlan>> plans_;
-    const Functor* failedFunctor_ = nullptr;
-    std::string failureMessage_;
+    std::atomic<bool> failed_{false};
 };
 
 } // namespace VRK

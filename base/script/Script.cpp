@@ -9,6 +9,7 @@
 #include "base/run/LightFunctorScheduler.h"
 #include "base/run/LightRunGuard.h"
 #include "base/run/RunContext.h"
+#include "base/task/ProcessorManager.h"
 #include "base/script/ScriptVerifier.h"
 #include "base/task/Task.h"
 
@@ -90,11 +91,12 @@ void Script::runTopLevel(Task& task, const FunctorScheduler& scheduler)
 {
     RunContext context(task, RunContext::cloning(scheduler));
     RunContext::Activation active(context);
+    Processor::BranchScope processors(ProcessorManager::Instance().getProcessorCount());
     try {
         ContainerFunctorUtils::runPass(*this, debug);
     } catch (const std::exception&) {
         // A cancellation is no functor's failure, whatever an error trap met before it.
-        failedFunctor_ = context.getFailedFunctor();
+        failedFunctor_ = RunContext::takeFailureNote().functor;
         throw;
     }
 }

@@ -12,6 +12,7 @@ unsigned int hardwareThreads()
     unsigned int threads = std::thread::hardware_concurrency();
     return threads == 0 ? 1 : threads;
 }
+thread_local unsigned int* branchCount = nullptr;
 } // namespace
 
 Processor::Processor() : count_(hardwareThreads()) {}
@@ -20,6 +21,10 @@ Processor::~Processor() = default;
 
 void Processor::setProcessorCount(unsigned int count)
 {
+    if (branchCount) {
+        *branchCount = count;
+        return;
+    }
     std::lock_guard<std::mutex> lock(mutex_);
     count_ = count;
     control_.reset();
@@ -27,11 +32,22 @@ void Processor::setProcessorCount(unsigned int count)
         tbb::global_control::max_allowed_parallelism, getEffectiveProcessorCount());
 }
 
-unsigned int Processor::getProcessorCount() const { return count_; }
+unsigned int Processor::getProcessorCount() const
+{
+    return branchCount ? *branchCount : count_.load();
+}
 
 unsigned int Processor::getEffectiveProcessorCount() const
 {
-    return count_ == 0 ? hardwareThreads() : count_.load();
+    const unsigned int count = getProcessorCount();
+    return count == 0 ? hardwareThreads() : count;
 }
+
+Processor::BranchScope::BranchScope(unsigned int count) : count_(count), previous_(branchCount)
+{
+    branchCount = &count_;
+}
+
+Processor::BranchScope::~BranchScope() { branchCount = previous_; }
 
 } // namespace VRK

@@ -1,5 +1,7 @@
 #include "base/task/Task.h"
 
+#include "base/task/BranchCancellation.h"
+#include "base/task/BranchStopScope.h"
 #include "base/task/TaskCancellation.h"
 
 namespace VRK {
@@ -26,6 +28,9 @@ void Task::checkCancellation() const
 {
     if (isCancelled())
         throw TaskCancellation();
+    const BranchStopScope* branch = BranchStopScope::current();
+    if (branch && branch->isStopped())
+        throw BranchCancellation();
 }
 
 Task* Task::getCurrentTask() { return currentTask; }

@@ -17,7 +17,8 @@ public:
 
     void cancel() override;
     bool isCancelled() const override;
-    // Throws TaskCancellation when the task was cancelled.
+    // Throws TaskCancellation when the task was cancelled, and BranchCancellation when a
+    // failure elsewhere in the run has stopped the branch this thread works on.
     void checkCancellation() const;
     // Owns the processes the run leaves running; cancelling the task cancels it.
     TaskWorker* getWorker() { return &worker_; }

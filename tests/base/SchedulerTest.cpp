@@ -107,10 +107,10 @@ public:
         rendezvous_->changed.notify_all();
         VRK::RunContext* context = VRK::RunContext::getCurrent();
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-        while (context && !context->getFailedFunctor()
+        while (context && !context->hasFailure()
                && std::chrono::steady_clock::now() < deadline)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        const bool failed = context && context->getFailedFunctor();
+        const bool failed = context && context->hasFailure();
         // The run notes the failure before the exception has left the failing functor's
         // worker; the pass learns of it a moment later.
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
