@@ -84,16 +84,23 @@ int runScript(VRK::Script& script, const std::string& scheduler, DiagnosticPrint
     InterruptGuard interrupt(task);
     try {
         script.run(task, scheduler);
-        return 0;
     } catch (const VRK::TaskCancellation&) {
-        err << "vrk: the run was cancelled.\n";
-        return 130;
     } catch (const std::bad_alloc&) {
         throw;
     } catch (const std::exception& error) {
-        reportRunError(script, error, diagnostics);
-        return 1;
+        // An error that Ctrl-C caused, such as a killed process, is the cancellation's.
+        if (!task.isCancelled()) {
+            reportRunError(script, error, diagnostics);
+            return 1;
+        }
     }
+    // A run cancelled during its last functor ends as cancelled, though nothing was left
+    // to stop.
+    if (task.isCancelled()) {
+        err << "vrk: the run was cancelled.\n";
+        return 130;
+    }
+    return 0;
 }
 
 } // namespace

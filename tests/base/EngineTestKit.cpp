@@ -172,6 +172,18 @@ Hook::Hook() : HookFunctor("Hook", "Holds a value for its consumer", nullptr)
 
 void Hook::runImpl() { Journal::add(getAlias() + " ran"); }
 
+Cancelling::Cancelling() : Functor("Cancelling", "Cancels the run", nullptr)
+{
+    addOutputPort("value", "Published after cancelling", NumberType::getInstance());
+}
+
+void Cancelling::runImpl()
+{
+    Journal::add(getAlias());
+    VRK::Task::getCurrentTask()->cancel();
+    setOutputPortValue<NumberData>("value", 1.0);
+}
+
 Failing::Failing() : Functor("Failing", "Fails", nullptr)
 {
     addOptionalInputPort("after", "Something to wait for", NumberType::getInstance(), true, 0);

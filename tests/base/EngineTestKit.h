@@ -121,6 +121,13 @@ public:
     void runImpl() override;
 };
 
+// Cancels the task it runs under, then publishes "value" as if nothing had happened.
+class Cancelling : public VRK::Functor {
+public:
+    Cancelling();
+    void runImpl() override;
+};
+
 // Fails with a RuntimeException.
 class Failing : public VRK::Functor {
 public:

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -234,6 +235,64 @@ TEST_F(Schedulers, ParallelStartsNothingAfterAFailure)
         EXPECT_EQ(Journal::take(), std::vector<std::string>{"partner outlived the failure"})
             << (automatic ? "automatic" : "parallel");
     }
+}
+
+// A failure stops the work beside it at its next pass instead of letting it run on: a
+// run in order would never have started the loop that comes after the failing functor.
+TEST_F(Schedulers, AFailureStopsTheLoopsBesideIt)
+{
+    const int passes = 200000;
+    for (const auto& scheduler : everyScheduler()) {
+        VRK::Script script;
+        auto& failing = add<Failing>(script, "f");
+        auto& loop = add<Loop>(script, "long", passes);
+        add<Source>(loop, "s", 1.0);
+        EXPECT_THROW(script.run(task, *scheduler), VRK::RuntimeException);
+        EXPECT_EQ(script.getFailedFunctor(), &failing);
+        const auto entries = Journal::take();
+        EXPECT_LT(std::count(entries.begin(), entries.end(), "s"), passes);
+        EXPECT_EQ(std::count(entries.begin(), entries.end(), "f"), 1);
+    }
+}
+
+// Cancelling is noticed before the next functor starts, not only at a loop's next pass.
+TEST_F(Schedulers, CancellationIsCheckedBeforeEveryFunctor)
+{
+    for (const auto& scheduler : everyScheduler()) {
+        VRK::Task cancelled;
+        VRK::Script script;
+        auto& cancelling = add<Cancelling>(script, "c");
+        auto& after = add<Source>(script, "after", 1.0);
+        bind(after, "offset", cancelling, "value");
+        EXPECT_THROW(script.run(cancelled, *scheduler), VRK::TaskCancellation);
+        EXPECT_EQ(Journal::take(), std::vector<std::string>{"c"});
+    }
+}
+
+// Processor policies side by side each change the count of their own branch; the
+// process's count is the same afterwards, whatever the interleaving.
+TEST_F(Schedulers, ProcessorCountsBelongToTheirBranch)
+{
+    VRK::Processor& processors = VRK::ProcessorManager::Instance();
+    const unsigned int before = processors.getProcessorCount();
+    for (int round = 0; round < 50; ++round) {
+        std::vector<std::thread> branches;
+        std::atomic<int> wrong{0};
+        for (unsigned int count : {1u, 3u}) {
+            branches.emplace_back([&, count] {
+                VRK::Processor::BranchScope branch(processors.getProcessorCount());
+                processors.setProcessorCount(count);
+                std::this_thread::yield();
+                if (processors.getProcessorCount() != count)
+                    ++wrong;
+                processors.setProcessorCount(before);
+            });
+        }
+        for (auto& branch : branches)
+            branch.join();
+        EXPECT_EQ(wrong.load(), 0);
+    }
+    EXPECT_EQ(processors.getProcessorCount(), before);
 }
 
 TEST_F(Schedulers, CancellationCrossesWorkerThreads)
