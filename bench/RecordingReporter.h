@@ -21,15 +21,19 @@ public:
                 times_[run.benchmark_name()] = run.GetAdjustedRealTime();
     }
 
+    // The real time per iteration of a benchmark, in its unit; 0 when it did not run.
+    double get(const std::string& name) const
+    {
+        auto time = times_.find(name);
+        return time == times_.end() ? 0 : time->second;
+    }
+
     // The time of `measured` over the time of `baseline`, by full benchmark name (with
     // "/real_time" for a benchmark measured in real time); 0 when either did not run.
     double ratio(const std::string& measured, const std::string& baseline) const
     {
-        auto time = times_.find(measured);
-        auto base = times_.find(baseline);
-        if (time == times_.end() || base == times_.end() || base->second <= 0)
-            return 0;
-        return time->second / base->second;
+        const double base = get(baseline);
+        return base > 0 ? get(measured) / base : 0;
     }
 
 private:

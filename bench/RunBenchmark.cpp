@@ -1,8 +1,9 @@
 // Running scripts. First the cost of a loop pass: a For over 1,000,000 steps whose
-// body passes the step through Step into MuxValue, next to a bare C++ loop that moves
-// the same values. Then a wide script, eight independent loops, under the parallel and
-// the automatic scheduler next to the sequential one. After the runs the program prints the ratios,
-// all measured in this one run.
+// body passes the step through Step into MuxValue, under the sequential and the
+// automatic scheduler, next to a bare C++ loop that moves the same values. Then a wide
+// script, eight independent loops with real work in every pass, under the parallel and
+// the automatic scheduler next to the sequential one. After the runs the program prints
+// the costs and ratios, all measured in this one run.
 
 #include "base/log/LogFilterHigherTags.h"
 #include "base/log/Logger.h"
@@ -16,9 +17,12 @@
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "bench/RecordingReporter.h"
+#include "plugins/prim/DoubleData.h"
+#include "plugins/prim/DoubleType.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <iomanip>
 #include <iostream>
 #include <memory>
@@ -31,7 +35,41 @@ namespace {
 
 const int LoopSteps = 1000000;
 const int WideLoops = 8;
-const int WideSteps = 25000;
+const int WideSteps = 2000;
+const int WorkIterations = 5000;
+
+// Real work for a pass: a few microseconds of arithmetic on the value it is given.
+class BenchWork : public VRK::Functor {
+public:
+    BenchWork() : Functor("BenchWork", "Computes for a while", nullptr)
+    {
+        addInputPort("value", "Where the computation starts", Prim::DoubleType::getInstance(),
+                     false);
+        addOutputPort("value", "What it comes to", Prim::DoubleType::getInstance());
+    }
+    void runImpl() override
+    {
+        double value = getInputPortValue<Prim::DoubleData>("value");
+        for (int i = 0; i < WorkIterations; ++i)
+            value = std::sqrt(value + i);
+        setOutputPortValue<Prim::DoubleData>("value", value);
+    }
+};
+
+std::shared_ptr<VRK::Functor> createBenchWork() { return std::make_shared<BenchWork>(); }
+
+std::shared_ptr<VRK::Functor> cloneBenchWork(const VRK::Functor& functor)
+{
+    return std::make_shared<BenchWork>(static_cast<const BenchWork&>(functor));
+}
+
+void registerBenchWork()
+{
+    auto& farm = VRK::FactoryFarmManager::Instance();
+    farm.getFunctorFactory()->register_("Bench", "BenchWork", &createBenchWork);
+    farm.getFunctorCloneFactory()->Register(typeid(BenchWork), &cloneBenchWork);
+    farm.getFunctorParser()->add("BenchWork", "BenchWork");
+}
 
 // A For whose body passes the step through Step into MuxValue, fed back to the next pass.
 std::string loopText(const std::string& alias, int steps)
@@ -45,13 +83,13 @@ std::string loopText(const std::string& alias, int steps)
 }
 
 // A branch of the wide script: a For whose body is a chain, the step through Step into
-// a Double carrier, so that all parallelism lies between the branches.
+// real work, so that all parallelism lies between the branches.
 std::string branchText(const std::string& alias, int steps)
 {
     std::ostringstream text;
     text << alias << " := For firstIterationStep = 1 lastIterationStep = " << steps << " {\n"
          << "    " << alias << "Step := Step step = " << alias << ".step;\n"
-         << "    Double constant = " << alias << "Step.step;\n"
+         << "    BenchWork value = " << alias << "Step.step;\n"
          << "}\n";
     return text.str();
 }
@@ -73,6 +111,7 @@ struct Scripts {
         VRK::Logger::setDefaultFilter(std::make_shared<VRK::LogFilterHigherTags>(VRK::error));
         VRK::Plugin plugin("Prim", "", VRK::FactoryFarmManager::Instance());
         registerPrimPlugin(plugin);
+        registerBenchWork();
         loop = readScript(loopText("loop", LoopSteps));
         std::string wideText;
         for (int i = 0; i < WideLoops; ++i)
@@ -99,6 +138,12 @@ void run(benchmark::State& state, VRK::Script& script, const VRK::FunctorSchedul
 void scriptLoop(benchmark::State& state)
 {
     run(state, *Scripts::get().loop, VRK::SequentialFunctorScheduler());
+    state.SetItemsProcessed(state.iterations() * LoopSteps);
+}
+
+void scriptLoopAuto(benchmark::State& state)
+{
+    run(state, *Scripts::get().loop, VRK::AutoFunctorScheduler());
     state.SetItemsProcessed(state.iterations() * LoopSteps);
 }
 
@@ -137,6 +182,7 @@ void wideAuto(benchmark::State& state)
 }
 
 BENCHMARK(scriptLoop)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(scriptLoopAuto)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(bareLoop)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(wideSequential)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(wideParallel)->Unit(benchmark::kMillisecond)->UseRealTime();
@@ -160,7 +206,16 @@ int main(int argc, char** argv)
     Bench::RecordingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     const unsigned int processors = VRK::ProcessorManager::Instance().getEffectiveProcessorCount();
-    std::cout << std::fixed << std::setprecision(1) << "\nRatios measured in this run:\n"
+    const double passNanoseconds = 1e6 / LoopSteps;
+    std::cout << std::fixed << std::setprecision(1) << "\nMeasured in this run:\n"
+              << "For loop pass, sequential (ns):          " << std::setw(10)
+              << reporter.get("scriptLoop/real_time") * passNanoseconds << "\n"
+              << "For loop pass, automatic (ns):           " << std::setw(10)
+              << reporter.get("scriptLoopAuto/real_time") * passNanoseconds << "\n"
+              << std::setprecision(2)
+              << "loop pass, automatic / sequential:       " << std::setw(10)
+              << ratio(reporter, "scriptLoopAuto", "scriptLoop") << "\n"
+              << std::setprecision(1)
               << "For loop pass / bare C++ loop pass:      " << std::setw(10)
               << ratio(reporter, "scriptLoop", "bareLoop") << "\n"
               << std::setprecision(2)
