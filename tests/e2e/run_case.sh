@@ -13,9 +13,16 @@ errors=$(mktemp "${TMPDIR:-/tmp}/vrk_e2e_${name}.XXXXXX")
 trap 'rm -f "$errors"' EXIT
 
 mapfile -t args < <(sed "s|SCRIPT|${case_dir}/script.vrk|g; s|CASE|${case_dir}|g" "$case_dir/args")
-actual_out=$(cd "$case_dir" && "$vrk" "${args[@]}" 2>"$errors")
+# A run that never ends is a failure of its own, not a hung test.
+limit="${VRK_E2E_TIMEOUT:-60}"
+actual_out=$(cd "$case_dir" && timeout "$limit" "$vrk" "${args[@]}" 2>"$errors")
 actual_status=$?
 expected_status=$(cat "$case_dir/status")
+if [ "$actual_status" = 124 ] && [ "$expected_status" != 124 ]; then
+    echo "FAIL $name: still running after $limit seconds"
+    head -c 2000 "$errors"
+    exit 1
+fi
 if [ "$actual_status" != "$expected_status" ]; then
     echo "FAIL $name: exit status $actual_status, expected $expected_status"
     cat "$errors"
