@@ -14,9 +14,15 @@ public:
     For(const For&) = default;
     ~For() override;
 
+    // Refuses an increment below 1 that the script fixes before the run: typed in, or
+    // carried unchanged from a constant.
+    void verify() override;
     void runImpl() override;
     bool isCompatible(VRK::Functor* functor) const override;
     void runContainerImpl() override;
+
+private:
+    void checkIncrement(int increment) const;
 };
 
 } // namespace Prim

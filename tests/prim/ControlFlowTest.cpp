@@ -7,6 +7,7 @@
 #include "plugins/prim/NonNegativeIntEditor.h"
 #include "plugins/prim/PositiveIntEditor.h"
 
+#include "base/error/IllegalDataException.h"
 #include "base/error/RuntimeException.h"
 #include "base/graph/ContainerFunctor.h"
 #include "base/log/LogFilterHigherTags.h"
@@ -43,6 +44,7 @@ public:
     {
         const VRK::InputPort& port = *getInputPort("value");
         std::ostringstream entry;
+        entry.precision(20);
         if (port.hasData())
             entry << getInputPortValue<Prim::DoubleData>("value");
         else
@@ -92,6 +94,19 @@ public:
 };
 int Countdown::passes = 0;
 int Countdown::runs = 0;
+
+// Cancels the run on its tenth pass, so that a loop that never ends fails its test
+// instead of hanging it.
+class Brake : public VRK::Functor {
+public:
+    Brake() : Functor("Brake", "Stops a runaway loop", nullptr) {}
+    void runImpl() override
+    {
+        if (++runs == 10)
+            VRK::Task::getCurrentTask()->cancel();
+    }
+    int runs = 0;
+};
 
 class ControlFlow : public ::testing::Test {
 protected:
@@ -214,8 +229,12 @@ TEST_F(ControlFlow, ForRunsItsInclusiveAscendingRange)
         int first, last, increment;
         std::vector<std::string> steps;
     };
-    for (const Case& range : {Case{3, 3, 1, {"3"}}, Case{4, 3, 1, {}},
-                              Case{0, 10, 3, {"0", "3", "6", "9"}}, Case{1, 4, 2, {"1", "3"}}}) {
+    const int max = 2147483647;
+    for (const Case& range :
+         {Case{3, 3, 1, {"3"}}, Case{4, 3, 1, {}}, Case{0, 10, 3, {"0", "3", "6", "9"}},
+          Case{1, 4, 2, {"1", "3"}}, Case{max - 1, max, 1, {"2147483646", "2147483647"}},
+          Case{max - 7, max, 5, {"2147483640", "2147483645"}},
+          Case{0, max, max, {"0", "2147483647"}}, Case{max, max, max, {"2147483647"}}}) {
         VRK::Functor& loop = probedLoop("For");
         setCount(loop, "firstIterationStep", range.first);
         setCount(loop, "lastIterationStep", range.last);
@@ -231,6 +250,65 @@ TEST_F(ControlFlow, ForRunsItsInclusiveAscendingRange)
                                   "\n===[ Running step 3, from 3 to 3 ]===\n",
                                   "For: Running step 3, from 3 to 3:",
                                   "For: Step 3, from 3 to 3, completed successfully."}));
+        }
+    }
+}
+
+TEST_F(ControlFlow, ForRefusesAnIncrementBelowOneBeforeAnyPass)
+{
+    const std::string refused =
+        "The input \"stepIncrement\" of \"inner\" (For) is 0: the increment must be 1 or more.";
+    const VRK::ScriptPosition at{"loops.vrk", 3, 5};
+
+    // An outer step of 0 passes the type check of the increment, so the run refuses it,
+    // whether or not the range is empty, as the check does.
+    for (int first : {0, 4}) {
+        VRK::Functor& outer = create(script, "For");
+        setCount(outer, "firstIterationStep", 0);
+        setCount(outer, "lastIterationStep", 1);
+        VRK::Functor& inner = create(dynamic_cast<VRK::FunctorContainer&>(outer), "For");
+        inner.setAlias("inner");
+        inner.setPosition(at);
+        setCount(inner, "firstIterationStep", first);
+        setCount(inner, "lastIterationStep", 3);
+        bind(inner, "stepIncrement", internalOutput(outer, "step"));
+        auto& body = dynamic_cast<VRK::FunctorContainer&>(inner);
+        bind(add<Probe>(body), "value", internalOutput(inner, "step"));
+        add<Brake>(body);
+        EXPECT_NO_THROW(inner.verify());
+        seen.clear();
+        try {
+            run(outer, VRK::trace);
+            ADD_FAILURE() << "a 0 increment from the outer step ran from " << first;
+        } catch (const VRK::IllegalDataException& error) {
+            EXPECT_EQ(error.getMessage(), refused);
+            EXPECT_EQ(error.getScriptPosition().line, at.line);
+            EXPECT_EQ(error.getScriptPosition().column, at.column);
+        }
+        EXPECT_EQ(seen, std::vector<std::string>{}) << first;
+    }
+
+    // A constant carried to the increment is known before the run: the check refuses 0
+    // and accepts 1 or more, through a chain of carriers too.
+    for (int constant : {0, 2}) {
+        VRK::Functor& zero = create(script, "NonNegativeInt");
+        setCount(zero, "constant", constant);
+        VRK::Functor& relay = create(script, "NonNegativeInt");
+        bind(relay, "constant", *zero.getOutputPort("object"));
+        VRK::Functor& inner = create(script, "For");
+        inner.setAlias("inner");
+        inner.setPosition(at);
+        bind(inner, "stepIncrement", *relay.getOutputPort("object"));
+        if (constant == 0) {
+            try {
+                inner.verify();
+                ADD_FAILURE() << "a carried 0 increment passed the check";
+            } catch (const VRK::IllegalDataException& error) {
+                EXPECT_EQ(error.getMessage(), refused);
+                EXPECT_EQ(error.getScriptPosition().line, at.line);
+            }
+        } else {
+            EXPECT_NO_THROW(inner.verify());
         }
     }
 }
