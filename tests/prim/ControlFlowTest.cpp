@@ -291,10 +291,10 @@ TEST_F(ControlFlow, ForRefusesAnIncrementBelowOneBeforeAnyPass)
     // A constant carried to the increment is known before the run: the check refuses 0
     // and accepts 1 or more, through a chain of carriers too.
     for (int constant : {0, 2}) {
-        VRK::Functor& zero = create(script, "NonNegativeInt");
-        setCount(zero, "constant", constant);
+        VRK::Functor& carried = create(script, "NonNegativeInt");
+        setCount(carried, "constant", constant);
         VRK::Functor& relay = create(script, "NonNegativeInt");
-        bind(relay, "constant", *zero.getOutputPort("object"));
+        bind(relay, "constant", *carried.getOutputPort("object"));
         VRK::Functor& inner = create(script, "For");
         inner.setAlias("inner");
         inner.setPosition(at);
