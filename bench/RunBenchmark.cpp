@@ -5,6 +5,7 @@
 // the automatic scheduler next to the sequential one. After the runs the program prints
 // the costs and ratios, all measured in this one run.
 
+#include "base/graph/Functor.h"
 #include "base/log/LogFilterHigherTags.h"
 #include "base/log/Logger.h"
 #include "base/plugin/FactoryFarmManager.h"
@@ -21,6 +22,7 @@
 #include "plugins/prim/DoubleType.h"
 
 #include <benchmark/benchmark.h>
+#include <boost/spirit/include/classic_symbols.hpp>
 
 #include <cmath>
 #include <iomanip>

@@ -22,6 +22,7 @@ namespace {
 // switching at every run.
 const double ParallelFromSeconds = 0.001;
 const double InOrderBelowSeconds = 0.0002;
+const unsigned int PassesPerTiming = 16;
 } // namespace
 
 void AutoFunctorScheduler::scheduleImpl()
@@ -30,6 +31,7 @@ void AutoFunctorScheduler::scheduleImpl()
     // Before any measure, a container among independent functors (a loop or a block,
     // whose contents run inside it) is the sign of work worth sharing out.
     parallel_ = schedule_.holdsContainer();
+    untimedPasses_ = PassesPerTiming;
 }
 
 void AutoFunctorScheduler::runImpl()
@@ -40,6 +42,13 @@ void AutoFunctorScheduler::runImpl()
         schedule_.runInOrder(getLogTag());
         return;
     }
+    // Reading the clock costs as much as a small pass, so passes in order are timed
+    // one in a few; a pass on the pool costs far more than the clock.
+    if (!parallel_ && ++untimedPasses_ < PassesPerTiming) {
+        schedule_.runInOrder(getLogTag());
+        return;
+    }
+    untimedPasses_ = 0;
     const auto start = std::chrono::steady_clock::now();
     if (parallel_)
         ParallelPass(schedule_, getLogTag()).run();
