@@ -2,9 +2,7 @@
 
 #include "base/graph/FunctorDependencies.h"
 #include "base/run/ParallelPass.h"
-#include "base/task/ProcessorManager.h"
 
-#include <cassert>
 #include <chrono>
 
 namespace VRK {
@@ -36,15 +34,9 @@ void AutoFunctorScheduler::scheduleImpl()
 
 void AutoFunctorScheduler::runImpl()
 {
-    // Decided at every pass: a processor policy may change the count between passes.
-    if (!schedule_.hasIndependentFunctors()
-        || ProcessorManager::Instance().getEffectiveProcessorCount() <= 1) {
-        schedule_.runInOrder(getLogTag());
-        return;
-    }
     // Reading the clock costs as much as a small pass, so passes in order are timed
     // one in a few; a pass on the pool costs far more than the clock.
-    if (!parallel_ && ++untimedPasses_ < PassesPerTiming) {
+    if (!schedule_.canRunAtOnce() || (!parallel_ && ++untimedPasses_ < PassesPerTiming)) {
         schedule_.runInOrder(getLogTag());
         return;
     }
@@ -61,8 +53,7 @@ void AutoFunctorScheduler::runImpl()
 
 Functor* AutoFunctorScheduler::getScheduledFunctorImpl(size_t index)
 {
-    assert(index < schedule_.size() && "index < getScheduledFunctorCount()");
-    return schedule_.getOrder()[index];
+    return schedule_.getFunctor(index);
 }
 
 size_t AutoFunctorScheduler::getScheduledFunctorCountImpl() { return schedule_.size(); }

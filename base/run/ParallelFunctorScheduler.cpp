@@ -1,7 +1,6 @@
 #include "base/run/ParallelFunctorScheduler.h"
 
 #include "base/run/ParallelPass.h"
-#include "base/task/ProcessorManager.h"
 
 namespace VRK {
 
@@ -16,13 +15,10 @@ ParallelFunctorScheduler::~ParallelFunctorScheduler() = default;
 
 void ParallelFunctorScheduler::runImpl()
 {
-    if (!getSchedule().hasIndependentFunctors()
-        || ProcessorManager::Instance().getEffectiveProcessorCount() <= 1) {
+    if (getSchedule().canRunAtOnce())
+        ParallelPass(getSchedule(), getLogTag()).run();
+    else
         getSchedule().runInOrder(getLogTag());
-        return;
-    }
-    ParallelPass pass(getSchedule(), getLogTag());
-    pass.run();
 }
 
 } // namespace VRK

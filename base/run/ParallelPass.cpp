@@ -14,11 +14,10 @@ namespace VRK {
 
 ParallelPass::ParallelPass(const PassSchedule& schedule, LogTag tag)
     : order_(schedule.getOrder()), containers_(schedule.getContainers()), tag_(tag),
-      remaining_(schedule.size()), successors_(schedule.size()),
-      context_(RunContext::getCurrent()), task_(Task::getCurrentTask()),
-      filter_(Logger::getCurrentThreadLogger()->getMainFilter()),
+      remaining_(schedule.size()), successors_(schedule.size()), context_(RunContext::getCurrent()),
+      task_(Task::getCurrentTask()), filter_(Logger::getCurrentThreadLogger()->getMainFilter()),
       processors_(ProcessorManager::Instance().getProcessorCount()),
-      outerStop_(BranchStopScope::current()), stopped_(schedule.size()), log_(schedule.size())
+      outerStop_(BranchStopScope::current()), log_(schedule.size())
 {
     const auto& waits = schedule.getWaits();
     for (size_t position = 0; position < schedule.size(); ++position) {
@@ -70,15 +69,14 @@ bool ParallelPass::runFunctor(size_t position)
         task = std::make_unique<Task::Activation>(task_);
     LoggerInitializer logger(filter_);
     Processor::BranchScope processors(processors_);
-    BranchStopScope stop(stopped_[position], outerStop_);
+    BranchStopScope stop(failedPosition_, position, outerStop_);
     OrderedLog::Writing writing(log_, position);
     try {
         ContainerFunctorUtils::runFunctor(*order_[position], containers_[position], tag_);
         return true;
     } catch (const BranchCancellation&) {
-        // Stopped by a failure before this functor, or by one outside the pass.
-        if (outerStop_ && outerStop_->isStopped())
-            stoppedFromOutside_.store(true);
+        // Stopped by a failure before this functor, or by one outside the pass: `rethrow`
+        // tells which.
     } catch (const TaskCancellation&) {
         // The task says so to every branch; `rethrow` throws it on.
     } catch (...) {
@@ -96,15 +94,13 @@ void ParallelPass::fail(size_t position, std::exception_ptr error)
     error_ = error;
     note_ = RunContext::takeFailureNote();
     log_.dropFrom(position + 1);
-    for (size_t later = position + 1; later < stopped_.size(); ++later)
-        stopped_[later].store(true);
 }
 
 void ParallelPass::rethrow()
 {
     if (task_ && task_->isCancelled())
         throw TaskCancellation();
-    if (stoppedFromOutside_.load())
+    if (outerStop_ && outerStop_->isStopped())
         throw BranchCancellation();
     if (error_) {
         RunContext::restoreFailureNote(std::move(note_));

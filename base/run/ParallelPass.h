@@ -61,14 +61,12 @@ private:
     std::shared_ptr<LogFilter> filter_;
     unsigned int processors_;
     const BranchStopScope* outerStop_;
-    std::vector<std::atomic<bool>> stopped_;
     OrderedLog log_;
     tbb::task_group group_;
     std::atomic<size_t> failedPosition_{None};
     std::mutex errorMutex_;
     std::exception_ptr error_;
     RunContext::FailureNote note_;
-    std::atomic<bool> stoppedFromOutside_{false};
 };
 
 } // namespace VRK

@@ -4,8 +4,10 @@
 #include "base/graph/FunctorDependencies.h"
 #include "base/graph/HookFunctor.h"
 #include "base/run/ContainerFunctorUtils.h"
+#include "base/task/ProcessorManager.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace VRK {
 
@@ -39,6 +41,17 @@ PassSchedule::PassSchedule(const FunctorDependencies& dependencies,
     }
     holdsContainer_ = std::any_of(containers_.begin(), containers_.end(),
                                   [](const ContainerFunctor* container) { return container; });
+}
+
+Functor* PassSchedule::getFunctor(size_t index) const
+{
+    assert(index < order_.size() && "index < getScheduledFunctorCount()");
+    return order_[index];
+}
+
+bool PassSchedule::canRunAtOnce() const
+{
+    return independent_ && ProcessorManager::Instance().getEffectiveProcessorCount() > 1;
 }
 
 void PassSchedule::runInOrder(LogTag tag) const

@@ -30,9 +30,12 @@ public:
     const std::vector<ContainerFunctor*>& getContainers() const { return containers_; }
     const std::vector<std::vector<size_t>>& getWaits() const { return waits_; }
     size_t size() const { return order_.size(); }
+    Functor* getFunctor(size_t index) const;
 
-    // Whether two scheduled functors could run at the same time.
-    bool hasIndependentFunctors() const { return independent_; }
+    // Whether the pass can share its functors out to the pool now: some are independent
+    // and more than one processor may be used (a processor policy may change that count
+    // between passes).
+    bool canRunAtOnce() const;
     // Whether a scheduled functor is a container, whose contents run inside it.
     bool holdsContainer() const { return holdsContainer_; }
 

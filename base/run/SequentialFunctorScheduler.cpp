@@ -2,8 +2,6 @@
 
 #include "base/graph/FunctorDependencies.h"
 
-#include <cassert>
-
 namespace VRK {
 
 SequentialFunctorScheduler::SequentialFunctorScheduler() = default;
@@ -25,8 +23,7 @@ void SequentialFunctorScheduler::runImpl() { schedule_.runInOrder(getLogTag()); 
 
 Functor* SequentialFunctorScheduler::getScheduledFunctorImpl(size_t index)
 {
-    assert(index < schedule_.size() && "index < getScheduledFunctorCount()");
-    return schedule_.getOrder()[index];
+    return schedule_.getFunctor(index);
 }
 
 size_t SequentialFunctorScheduler::getScheduledFunctorCountImpl() { return schedule_.size(); }

@@ -6,8 +6,9 @@ namespace {
 thread_local const BranchStopScope* currentScope = nullptr;
 }
 
-BranchStopScope::BranchStopScope(const std::atomic<bool>& stopped, const BranchStopScope* outer)
-    : stopped_(stopped), outer_(outer), previous_(currentScope)
+BranchStopScope::BranchStopScope(const std::atomic<size_t>& firstFailure, size_t place,
+                                 const BranchStopScope* outer)
+    : firstFailure_(firstFailure), place_(place), outer_(outer), previous_(currentScope)
 {
     currentScope = this;
 }
@@ -19,7 +20,7 @@ const BranchStopScope* BranchStopScope::current() { return currentScope; }
 bool BranchStopScope::isStopped() const
 {
     for (const BranchStopScope* scope = this; scope; scope = scope->outer_)
-        if (scope->stopped_.load(std::memory_order_relaxed))
+        if (scope->place_ > scope->firstFailure_.load(std::memory_order_relaxed))
             return true;
     return false;
 }
