@@ -44,6 +44,8 @@ std::shared_ptr<VRK::Script> prepareScript(const RunCommand::Options& options,
         }
         for (const auto& assignment : options.assignments) {
             concerned = "--set " + assignment;
+            diagnostics.addSource(VRK::ScriptParameters::AssignmentFile,
+                                  VRK::LineBuffer(assignment));
             VRK::ScriptParameters::apply(*script,
                                          VRK::ScriptParameters::parseAssignment(assignment));
         }
@@ -76,7 +78,7 @@ void reportRunError(const VRK::Script& script, const std::exception& error,
     }
 }
 
-// Runs under a task that SIGINT cancels; returns the exit status.
+// Runs under a task that SIGINT and SIGTERM cancel; returns the exit status.
 int runScript(VRK::Script& script, const std::string& scheduler, DiagnosticPrinter& diagnostics,
               std::ostream& err)
 {
@@ -98,7 +100,7 @@ int runScript(VRK::Script& script, const std::string& scheduler, DiagnosticPrint
     // to stop.
     if (task.isCancelled()) {
         err << "vrk: the run was cancelled.\n";
-        return 130;
+        return interrupt.getCancelledStatus();
     }
     return 0;
 }

@@ -1,16 +1,22 @@
 #include "apps/vrk/CheckCommand.h"
 #include "apps/vrk/ConvertCommand.h"
 #include "apps/vrk/DescribeCommand.h"
+#include "apps/vrk/DiagnosticPrinter.h"
 #include "apps/vrk/HostSession.h"
+#include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
 
+#include "base/error/Exception.h"
 #include "base/log/LogTagInfo.h"
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
+#include <exception>
 #include <functional>
 #include <iostream>
+#include <new>
 #include <vector>
 
 namespace {
@@ -30,9 +36,9 @@ struct Command {
     std::function<int()> run;
 };
 
-} // namespace
-
-int main(int argc, char** argv)
+// Reads the command line, sets the host up and runs the command chosen; returns the
+// exit status.
+int runCommandLine(int argc, char** argv)
 {
     CLI::App app("vrk - reads, checks and runs dataflow model scripts");
     app.require_subcommand(1);
@@ -101,4 +107,26 @@ int main(int argc, char** argv)
             return status != 0 ? status : (pluginsLoaded ? 0 : 1);
         }
     return 2;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // A write beyond the size limit on files then fails as an error of its own, which
+    // removes its temporary file, instead of ending the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    const InterruptGuard interrupt;
+    try {
+        return runCommandLine(argc, argv);
+    } catch (const VRK::Exception& error) {
+        DiagnosticPrinter(std::cerr).print(error);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "vrk: error: not enough memory to go on.\n";
+    } catch (const std::exception& error) {
+        std::cerr << "vrk: error: " << error.what() << '\n';
+    } catch (...) {
+        std::cerr << "vrk: error: the command failed for a reason it does not know.\n";
+    }
+    return 1;
 }

@@ -27,7 +27,14 @@ ParseError::Position PlainTextOrigin::positionOf(const char* where)
 {
     assert(textStart != 0 && "positions are asked for while a text is marked");
     assert(where >= textStart && "the position lies inside the marked text");
-    return ParseError::Position(std::string(), 1, 1 + static_cast<int>(where - textStart));
+    int line = 1;
+    const char* lineStart = textStart;
+    for (const char* c = textStart; c != where; ++c)
+        if (*c == '\n') {
+            ++line;
+            lineStart = c + 1;
+        }
+    return ParseError::Position(std::string(), line, 1 + static_cast<int>(where - lineStart));
 }
 
 } // namespace VRK

@@ -11,7 +11,8 @@ namespace VRK {
 // began, so a parse error on it could not say where it happened. A PlainTextOrigin
 // marks, for the calling thread and for its own lifetime, the first character of the
 // text being read; positions are then counted from it as line 1, column 1, with an
-// empty file name. The outermost mark wins: a nested read of part of the same text
+// empty file name; a line feed starts the next line and a tab counts as one column, as
+// in script text. The outermost mark wins: a nested read of part of the same text
 // keeps counting from the start of the whole text.
 //
 // Whoever builds a plain scanner marks its text before building it: the scanner skips

@@ -80,7 +80,10 @@ struct transduced_assertive_parser
         std::optional<PlainTextOrigin> origin;
         detail::markOrigin(origin, scan.first);
         scan.skip(scan);
-        const ParseError::Position entry = detail::positionOf(scan.first);
+        // The place is turned into a line and a column only for an error: counting the
+        // lines of a plain text at every element of a long value would take the square
+        // of its length.
+        const auto entry = scan.first;
         auto hit = parseSubject(scan, entry);
         if (!hit)
             raiseAt(message_, entry);
@@ -90,9 +93,9 @@ struct transduced_assertive_parser
     const std::string& getMessage() const { return message_; }
 
 private:
-    template <class ScannerT>
+    template <class ScannerT, class IteratorT>
     typename boost::spirit::classic::parser_result<SubjectT, ScannerT>::type
-    parseSubject(const ScannerT& scan, const ParseError::Position& entry) const
+    parseSubject(const ScannerT& scan, const IteratorT& entry) const
     {
         try {
             return this->subject().parse(scan);
@@ -103,10 +106,10 @@ private:
         }
     }
 
-    [[noreturn]] static void raiseAt(const std::string& message,
-                                     const ParseError::Position& position)
+    template <class IteratorT>
+    [[noreturn]] static void raiseAt(const std::string& message, const IteratorT& where)
     {
-        ExceptionUtils::raise(ParseError(message, position));
+        ExceptionUtils::raise(ParseError(message, detail::positionOf(where)));
     }
 
     std::string message_;

@@ -16,8 +16,8 @@ class DataEditor;
 //
 // Throws a ParseError when the text is not a value of the type, when the editor refuses
 // the value, or when anything but white space follows the value ("Unexpected text after
-// the value."). Its position has an empty file name, line 1, and the column of the
-// offending character counted from 1 at the start of `text`. Throws the factory's
+// the value."). Its position has an empty file name and the line and column of the
+// offending character within `text`, both counted from 1. Throws the factory's
 // FactoryError when no plain-scanner reader is registered under the type name.
 //
 // A refused or partly read value may already have changed the editor (a set of

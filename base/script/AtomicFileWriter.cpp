@@ -5,47 +5,138 @@
 
 #include <boost/filesystem/operations.hpp>
 
+#include <atomic>
+#include <climits>
+#include <cstring>
 #include <fstream>
+
+#include <unistd.h>
 
 namespace VRK {
 
 namespace {
 
-boost::filesystem::path temporaryBeside(const boost::filesystem::path& target)
+namespace fs = boost::filesystem;
+
+// The temporary files of the writes under way, kept where a signal handler may read
+// them: fixed buffers and lock-free flags, no allocation. A write that finds every slot
+// taken goes on unlisted.
+enum SlotState { Free, Filling, Listed };
+struct TemporarySlot {
+    std::atomic<int> state{Free};
+    char path[PATH_MAX];
+};
+constexpr size_t SlotCount = 16;
+TemporarySlot temporarySlots[SlotCount];
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler reads the slots");
+
+TemporarySlot* listTemporary(const fs::path& temporary)
 {
-    const boost::filesystem::path name =
-        "." + target.filename().string() + boost::filesystem::unique_path(".%%%%%%%%.tmp").string();
-    return target.parent_path() / name;
+    const std::string& name = temporary.native();
+    if (name.size() >= PATH_MAX)
+        return nullptr;
+    for (TemporarySlot& slot : temporarySlots) {
+        int free = Free;
+        if (!slot.state.compare_exchange_strong(free, Filling))
+            continue;
+        std::memcpy(slot.path, name.c_str(), name.size() + 1);
+        slot.state.store(Listed);
+        return &slot;
+    }
+    return nullptr;
 }
 
-[[noreturn]] void fail(const boost::filesystem::path& target, const std::string& reason)
+void unlistTemporary(TemporarySlot* slot)
+{
+    if (slot)
+        slot->state.store(Free);
+}
+
+[[noreturn]] void fail(const fs::path& target, const std::string& reason)
 {
     ExceptionUtils::raise<UnableToAccessFileException>("The file \"" + target.string()
                                                         + "\" cannot be written: " + reason + ".");
 }
 
-} // namespace
-
-void AtomicFileWriter::write(const boost::filesystem::path& target, const Content& content)
+// Where the bytes go: the file that a chain of symbolic links ends in, so that the
+// links stay links.
+fs::path followLinks(const fs::path& target)
 {
-    const boost::filesystem::path temporary = temporaryBeside(target);
-    try {
-        std::ofstream out(temporary.string(), std::ios::binary | std::ios::trunc);
-        if (!out)
-            fail(target, "its folder does not accept a new file");
-        content(out);
-        out.close();
-        if (!out)
-            fail(target, "the data could not be stored");
-        boost::system::error_code error;
-        boost::filesystem::rename(temporary, target, error);
+    fs::path followed = target;
+    boost::system::error_code error;
+    for (int hops = 0; fs::is_symlink(followed, error); ++hops) {
+        if (hops == 40)
+            fail(target, "its symbolic links lead round in a circle");
+        const fs::path link = fs::read_symlink(followed, error);
         if (error)
             fail(target, error.message());
+        followed = link.is_absolute() ? link : followed.parent_path() / link;
+    }
+    return followed;
+}
+
+// "." + the target's name + a random suffix, the name shortened where the file system
+// would refuse its length.
+fs::path temporaryBeside(const fs::path& target)
+{
+    const fs::path folder = target.parent_path().empty() ? fs::path(".") : target.parent_path();
+    const long limit = ::pathconf(folder.c_str(), _PC_NAME_MAX);
+    const std::string suffix = fs::unique_path(".%%%%%%%%.tmp").string();
+    const size_t room = static_cast<size_t>(limit > 0 ? limit : NAME_MAX) - suffix.size() - 1;
+    return target.parent_path() / ("." + target.filename().string().substr(0, room) + suffix);
+}
+
+void keepPermissions(const fs::path& target, const fs::path& temporary)
+{
+    boost::system::error_code error;
+    const fs::file_status existing = fs::status(target, error);
+    if (error || !fs::exists(existing))
+        return;
+    fs::permissions(temporary, existing.permissions(), error);
+    if (error)
+        fail(target, error.message());
+}
+
+void writeAndRename(const fs::path& target, const fs::path& temporary,
+                    const AtomicFileWriter::Content& content)
+{
+    std::ofstream out(temporary.string(), std::ios::binary | std::ios::trunc);
+    if (!out)
+        fail(target, "its folder does not accept a new file");
+    content(out);
+    out.close();
+    if (!out)
+        fail(target, "the data could not be stored");
+    keepPermissions(target, temporary);
+    boost::system::error_code error;
+    fs::rename(temporary, target, error);
+    if (error)
+        fail(target, error.message());
+}
+
+} // namespace
+
+void AtomicFileWriter::write(const fs::path& target, const Content& content)
+{
+    const fs::path destination = followLinks(target);
+    const fs::path temporary = temporaryBeside(destination);
+    TemporarySlot* listed = listTemporary(temporary);
+    try {
+        writeAndRename(destination, temporary, content);
     } catch (...) {
         boost::system::error_code ignored;
-        boost::filesystem::remove(temporary, ignored);
+        fs::remove(temporary, ignored);
+        unlistTemporary(listed);
         throw;
     }
+    unlistTemporary(listed);
+}
+
+void AtomicFileWriter::removeTemporaries() noexcept
+{
+    for (TemporarySlot& slot : temporarySlots)
+        if (slot.state.load() == Listed)
+            ::unlink(slot.path);
 }
 
 } // namespace VRK

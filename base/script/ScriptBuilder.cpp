@@ -30,7 +30,7 @@ std::string listPortNames(const Ports& ports)
 ScriptPosition shift(const ScriptPosition& inText, const ScriptPosition& textStart)
 {
     ScriptPosition position = textStart;
-    if (!inText.isKnown())
+    if (!inText.isKnown() || !textStart.isKnown())
         return position;
     position.line = textStart.line + inText.line - 1;
     position.column = inText.line == 1 ? textStart.column + inText.column - 1 : inText.column;
@@ -201,6 +201,13 @@ std::string ScriptBuilder::noReaderMessage(const std::string& typeName)
 void ScriptBuilder::setValueText(InputPort& port, const std::string& text,
                                  const ScriptPosition& position)
 {
+    setValueText(port, text, position,
+                 [&position](const ScriptPosition& inText) { return shift(inText, position); });
+}
+
+void ScriptBuilder::setValueText(InputPort& port, const std::string& text,
+                                 const ScriptPosition& position, const ValueLocator& locate)
+{
     DataEditor& editor = takeValueEditor(port, position);
     const std::string& typeName = port.getType()->getName();
     auto factory =
@@ -210,7 +217,8 @@ void ScriptBuilder::setValueText(InputPort& port, const std::string& text,
     try {
         ValueParser::read(&editor, typeName, text);
     } catch (const ParseError& error) {
-        ExceptionUtils::raiseAt<ParseError>(shift(error.getScriptPosition(), position),
+        const ScriptPosition& inText = error.getScriptPosition();
+        ExceptionUtils::raiseAt<ParseError>(inText.isKnown() ? locate(inText) : position,
                                             error.getMessage());
     }
 }

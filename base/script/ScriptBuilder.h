@@ -10,6 +10,7 @@
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/util/ScriptPosition.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -70,9 +71,17 @@ public:
             ExceptionUtils::raiseAt<ParseError>(position, noReaderMessage(typeName));
         return std::unique_ptr<DataReader<ScannerT>>(factory->create(typeName, &editor));
     }
+    // Where a place in the text of a value, counted from line 1, column 1 of that text,
+    // stands in the script.
+    using ValueLocator = std::function<ScriptPosition(const ScriptPosition& inText)>;
     // Reads `text`, which stands at `position`, as the value of `port` (values of XML
-    // scripts, parameter files and the command line).
+    // scripts, parameter files and the command line). The text is taken as written in
+    // the script, so that a place within it lies as far from `position`.
     static void setValueText(InputPort& port, const std::string& text, const ScriptPosition& position);
+    // As above, for a text that differs from what the script spells (entities
+    // replaced): `locate` finds the places of errors within it.
+    static void setValueText(InputPort& port, const std::string& text,
+                             const ScriptPosition& position, const ValueLocator& locate);
 
     // Resolves the bindings and binds work directories; throws at the first reference
     // that does not resolve.

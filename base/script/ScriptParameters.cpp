@@ -13,6 +13,8 @@
 
 namespace VRK {
 
+const std::string ScriptParameters::AssignmentFile = "--set";
+
 std::vector<WizardParameter> ScriptParameters::readFile(const std::string& filename)
 {
     std::ifstream in(filename, std::ios::binary);
@@ -33,6 +35,8 @@ WizardParameter ScriptParameters::parseAssignment(const std::string& assignment)
         parameter.alias = assignment.substr(0, dot);
         parameter.port = assignment.substr(dot + 1, equals - dot - 1);
         parameter.value = assignment.substr(equals + 1);
+        parameter.namePosition = ScriptPosition{AssignmentFile, 1, 1};
+        parameter.position = ScriptPosition{AssignmentFile, 1, static_cast<int>(equals) + 2};
     }
     if (!NameUtils::isValidName(parameter.alias) || !NameUtils::isValidName(parameter.port))
         ExceptionUtils::raise<ParseError>("Expecting alias.port=VALUE, not \"" + assignment
@@ -60,7 +64,8 @@ void ScriptParameters::apply(Script& script, const WizardParameter& parameter)
             name, "The input \"" + port.getName() + "\" of " + FunctorNameUtils::describe(*functor)
                       + " is bound to an output: a parameter cannot set it.");
     ScriptBuilder::setValueText(port, parameter.value, parameter.position);
-    if (parameter.position.isKnown())
+    // The command line is no file that a later diagnostic of the port could quote.
+    if (parameter.position.isKnown() && parameter.position.file != AssignmentFile)
         port.setPosition(parameter.position);
 }
 

@@ -16,7 +16,11 @@ class ScriptParameters {
 public:
     // Reads a parameter file with DefaultWizardReader.
     static std::vector<WizardParameter> readFile(const std::string& filename);
-    // "alias.port=VALUE" as given on the command line; no position.
+    // What the positions of an assignment name as their file: they count lines and
+    // columns within the assignment's own text.
+    static const std::string AssignmentFile;
+
+    // "alias.port=VALUE" as given on the command line, placed in AssignmentFile.
     static WizardParameter parseAssignment(const std::string& assignment);
 
     // Sets each parameter's value, read by the plain-scanner reader of the input's type.

@@ -23,8 +23,9 @@ public:
     struct Options {
         // Also the values of typed-in inputs that the modeller did not set (defaults).
         bool writeUnsetValues = false;
-        // Every alias, not only those that a binding refers to.
-        bool writeAllAliases = false;
+        // Every alias, not only those that a binding refers to: parameters name
+        // functors by their aliases, referenced or not.
+        bool writeAllAliases = true;
         // Also the bindings the host makes by itself (work directories).
         bool writeHostBindings = false;
         // Property names must be identifiers, for a format that spells them bare.

@@ -26,6 +26,8 @@ public:
     void clear();
 
     size_t getIntCount() const { return values_.size(); }
+    // The elements in ascending order, to walk them all without seeking each by index.
+    const std::set<int>& getInts() const { return values_; }
     // The element at `index` in ascending order.
     int getInt(size_t index) const;
 

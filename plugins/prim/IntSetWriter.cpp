@@ -3,6 +3,8 @@
 #include "plugins/prim/IntSetEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
+#include <set>
+
 namespace Prim {
 
 IntSetWriter::IntSetWriter(const VRK::DataEditor* dataEditor)
@@ -12,11 +14,14 @@ IntSetWriter::IntSetWriter(const VRK::DataEditor* dataEditor)
 
 std::ostream& IntSetWriter::write(std::ostream& out, int) const
 {
-    if (editor_->getIntCount() == 0)
+    const std::set<int>& values = editor_->getInts();
+    if (values.empty())
         return out << "[]";
-    out << "[ ";
-    for (size_t i = 0; i < editor_->getIntCount(); ++i)
-        out << (i == 0 ? "" : ", ") << editor_->getInt(i);
+    const char* separator = "[ ";
+    for (int value : values) {
+        out << separator << value;
+        separator = ", ";
+    }
     return out << " ]";
 }
 

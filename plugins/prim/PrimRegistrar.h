@@ -17,6 +17,7 @@
 #include "base/script/WizardReader.h"
 #include "base/script/WizardWriter.h"
 #include "base/util/NameUtils.h"
+#include "base/util/TypeNameUtils.h"
 
 #include <cassert>
 #include <memory>
@@ -102,7 +103,7 @@ public:
     template <class T>
     bool registerData()
     {
-        return registerByType("Data", typeid(T).name(), [&] {
+        return registerByType("Data", VRK::TypeNameUtils::getReadableName(typeid(T)), [&] {
             return farm_.getDataCloneFactory()->Register(typeid(T), &cloneData<T>);
         });
     }
@@ -110,7 +111,7 @@ public:
     template <class T>
     bool registerDataHolder()
     {
-        return registerByType("DataHolder", typeid(T).name(), [&] {
+        return registerByType("DataHolder", VRK::TypeNameUtils::getReadableName(typeid(T)), [&] {
             return farm_.getDataHolderCloneFactory()->Register(typeid(T), &cloneDataHolder<T>);
         });
     }

@@ -91,10 +91,14 @@ struct BrokenScript {
 TEST(DefaultScriptReader, ReportsEachMistakeWithItsLineAndColumn)
 {
     const BrokenScript cases[] = {
-        {"TestSource constant = 1;\n  Nothing x = 1;", 2, 3, "The functor \"Nothing\" is not registered."},
+        {"TestSource constant = 1;\n  Nothing x = 1;", 2, 3,
+         "The functor \"Nothing\" is not registered."},
         {"TestSource constant = 1 colour = 2;", 1, 25,
          "The functor \"TestSource\" has no input \"colour\". Its inputs are \"constant\"."},
-        {"TestSource constant = x1;", 1, 23, "Expecting a value, or a reference of the form alias.port."},
+        {"TestSource constant = x.1;", 1, 23,
+         "Expecting a value, or a reference of the form alias.port."},
+        // A bare word is no reference: the type says what its values look like.
+        {"TestSource constant = x1;", 1, 23, "Expecting a number."},
         {"TestSource constant = ;", 1, 23, "Expecting a number."},
         {"TestSource constant = -4;", 1, 23, "The number \"-4\" is negative."},
         {"TestSource constant = 12abc;", 1, 25,
@@ -112,7 +116,8 @@ TEST(DefaultScriptReader, ReportsEachMistakeWithItsLineAndColumn)
          "Expecting an input name, \";\" or \"{\" after the inputs of \"TestSource\"."},
         {"a := TestSource constant = 1;\n\ta := TestSource constant = 2;", 2, 2,
          "The alias \"a\" is already used at line 1, column 1."},
-        {"TestSink value = nobody.object;", 1, 18, "The alias \"nobody\" is not defined in this script."},
+        {"TestSink value = nobody.object;", 1, 18,
+         "The alias \"nobody\" is not defined in this script."},
         {"a := TestSource constant = 1; TestSink value = a.result;", 1, 48,
          "The functor \"a\" (TestSource) has no output \"result\". Its outputs are \"object\"."},
         {"TestMux initial = 1 feedback = 2;", 1, 32,
@@ -122,7 +127,8 @@ TEST(DefaultScriptReader, ReportsEachMistakeWithItsLineAndColumn)
          "The functor \"TestSource\" is not a container: it holds no functors."},
         {"TestBox { TestRefused; }", 1, 11,
          "The functor \"TestRefused\" cannot be placed inside \"TestBox\"."},
-        {"TestMux initial = 1 first = 2;", 1, 21, "The input \"initial\" of \"TestMux\" is given twice."},
+        {"TestMux initial = 1 first = 2;", 1, 21,
+         "The input \"initial\" of \"TestMux\" is given twice."},
         {"@comment = \"x\"\n}", 2, 1, "Expecting a functor name."},
         {"@comment \"x\" TestRefused;", 1, 10, "Expecting \"=\" after the property name."},
         {"@ = \"x\" TestRefused;", 1, 3, "Expecting a property name after \"@\"."},

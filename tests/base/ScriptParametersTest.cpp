@@ -82,8 +82,8 @@ TEST(ScriptParameters, SetTheValuesOfAliasedFunctors)
     VRK::ScriptParameters::apply(*script, readParameters("n.constant = 5; s.title = \"T\";"));
     VRK::ScriptParameters::apply(*script, VRK::ScriptParameters::parseAssignment("t.constant=\"b c\""));
     EXPECT_EQ(VRK::Testing::writeText(*script), "n := TestSource constant = 5;\n"
-                                                 "TestSink value = n.object label = \"T\";\n"
-                                                 "TestTextSource constant = \"b c\";\n");
+                                                "s := TestSink value = n.object label = \"T\";\n"
+                                                "t := TestTextSource constant = \"b c\";\n");
 
     const auto apply = [&](const std::string& text) {
         return [&script, text] { VRK::ScriptParameters::apply(*script, readParameters(text)); };

@@ -69,7 +69,7 @@ TEST(XMLScriptWriter, WritesTheDocumentedShape)
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<script>\n"
         "    <property name=\"title\" value=\"Sample &lt;&amp;> &quot;q&quot;\" />\n"
-        "    <functor name=\"TestSink\">\n"
+        "    <functor name=\"TestSink\" alias=\"sink\">\n"
         "        <property name=\"comment\" value=\"Two&#10;lines\" />\n"
         "        <input port=\"value\" peer=\"src.object\" />\n"
         "        <input port=\"label\">\"a &lt; b &amp; c\"</input>\n"
@@ -149,10 +149,9 @@ TEST(XMLScriptReader, AcceptsWhatHandsWriteToo)
     EXPECT_TRUE(box->getInputPort("count")->isSet());
     VRK::Functor* sink = box->getFunctor(0);
     EXPECT_TRUE(sink->getInputPort("label")->isSet());
-    EXPECT_EQ(writeText(*script),
-              "TestBox count = 4 {\n"
-              "    TestSink value = 2.5 label = \"<raw>\";\n"
-              "}\n");
+    EXPECT_EQ(writeText(*script), "TestBox count = 4 {\n"
+                                  "    s := TestSink value = 2.5 label = \"<raw>\";\n"
+                                  "}\n");
 }
 
 TEST(XMLScriptReader, ErrorsNameTheLineAndColumnOfWhatIsWrong)

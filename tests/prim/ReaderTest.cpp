@@ -317,15 +317,23 @@ TEST(ScriptReaderTest, PositionsCountLinesAndSkipComments)
     EXPECT_EQ(error.getPosition().column, 3);
 }
 
-TEST(PlainReaderTest, PositionsAreOffsetsOnOneLine)
+TEST(PlainReaderTest, PositionsCountLinesAndColumnsOfTheText)
 {
     IntEditor editor;
     const VRK::ParseError error =
         ValueReading<VRK::PlainScanner>::readError<IntReader>(editor, " \n\t x");
     EXPECT_EQ(error.getMessage(), "Expecting an integer.");
     EXPECT_EQ(error.getPosition().file, "");
-    EXPECT_EQ(error.getPosition().line, 1);
-    EXPECT_EQ(error.getPosition().column, 5);
+    EXPECT_EQ(error.getPosition().line, 2);
+    EXPECT_EQ(error.getPosition().column, 3);
+
+    // An element of a set on its third line.
+    IntSetEditor set;
+    const VRK::ParseError inSet =
+        ValueReading<VRK::PlainScanner>::readError<IntSetReader>(set, "[1,\n 2,\n x]");
+    EXPECT_EQ(inSet.getMessage(), "Expecting an integer.");
+    EXPECT_EQ(inSet.getPosition().line, 3);
+    EXPECT_EQ(inSet.getPosition().column, 2);
 
     // Comments are not the plain scanner's business.
     EXPECT_EQ(ValueReading<VRK::PlainScanner>::readError<IntReader>(editor, "/* c */ 1")

@@ -1,3 +1,5 @@
+#include "plugins/prim/BoolData.h"
+#include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/FolderFunctor.h"
 #include "plugins/prim/IntSetFunctor.h"
 #include "plugins/prim/PrimRegistrar.h"
@@ -112,6 +114,22 @@ TEST(PrimRegistrar, ReaderFactoryPerScannerIsCreatedOnceAndLogged)
     EXPECT_EQ(capture.lines(), expected);
     EXPECT_EQ(farm.getDataReaderFactory<VRK::PlainScanner>("plain"),
               farm.getDataReaderFactory<VRK::PlainScanner>("plain"));
+}
+
+TEST(PrimRegistrar, DataAndHoldersAreLoggedUnderTheirClassNames)
+{
+    VRK::FactoryFarm farm;
+    Prim::PrimRegistrar registrar(farm);
+    LogCapture capture;
+    EXPECT_TRUE(registrar.registerData<Prim::BoolData>());
+    EXPECT_TRUE(registrar.registerDataHolder<Prim::BoolEditor>());
+    const std::vector<std::string> expected = {
+        "Data \"VRK::PrimData<bool, Prim::BoolViewer, Prim::BoolEditor>\" is being registered:",
+        "Data \"VRK::PrimData<bool, Prim::BoolViewer, Prim::BoolEditor>\" registered successfully.",
+        "DataHolder \"Prim::BoolEditor\" is being registered:",
+        "DataHolder \"Prim::BoolEditor\" registered successfully.",
+    };
+    EXPECT_EQ(capture.lines(), expected);
 }
 
 TEST(PrimRegistrar, DeliberateWordingsOfWriterAndConverterFailures)

@@ -77,7 +77,9 @@ struct DefaultScriptGrammar::definition {
                      >> ~eps_p(alnum_p | '_')][on(a, &DefaultScriptActions::beginFunctor)]
             | identifier[on(a, &DefaultScriptActions::unknownFunctor)];
 
-        reference = eps_p(alpha_p | '_')
+        // A word without a point after it is no reference: it is left to the value's
+        // reader, which says what a value of the input's type looks like.
+        reference = eps_p(lexeme_d[word >> '.'])
                     >> transduced_assertive_p(
                         lexeme_d[word >> '.' >> word][on(a, &DefaultScriptActions::reference)],
                         "Expecting a value, or a reference of the form alias.port.");

@@ -24,12 +24,13 @@ public:
     //                     script.
     // writeUnsetValues:   also write the values of typed-in inputs that the modeller did
     //                     not set (their defaults), which then count as set.
-    // writeAllAliases:    keep every alias, not only those that a binding refers to.
+    // writeAllAliases:    keep every alias, not only those that a binding refers to: a
+    //                     parameter file may name a functor by any alias of the script.
     // writeHostBindings:  also spell out the bindings the host makes by itself (work
     //                     directories).
     // separateTopLevel:   a blank line between the statements of the top level.
     explicit DefaultScriptWriter(int indentWidth = 4, bool writeProperties = true,
-                                 bool writeUnsetValues = false, bool writeAllAliases = false,
+                                 bool writeUnsetValues = false, bool writeAllAliases = true,
                                  bool writeHostBindings = false, bool separateTopLevel = false);
     ~DefaultScriptWriter() override;
 

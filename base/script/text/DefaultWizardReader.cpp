@@ -1,14 +1,11 @@
 #include "base/script/text/DefaultWizardReader.h"
 
-#include "base/error/ExceptionUtils.h"
-#include "base/error/FileException.h"
 #include "base/parse/ScriptTextScanner.h"
 #include "base/parse/TransducedAssertiveParser.h"
+#include "base/script/ScriptTextInput.h"
 #include "base/script/text/DefaultScriptActions.h"
 
 #include <boost/spirit/include/classic_core.hpp>
-
-#include <iterator>
 
 namespace VRK {
 
@@ -22,9 +19,7 @@ void DefaultWizardReader::readImpl(std::istream& in, const std::string& filename
     using Spirit::transduced_assertive_p;
     using Rule = rule<ScriptScanner>;
 
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad())
-        ExceptionUtils::raise<FileException>("The parameters \"" + filename + "\" cannot be read.");
+    const std::string text = ScriptTextInput::readAll(in, "The parameters \"" + filename + "\"");
 
     WizardParameter parameter;
     const auto word = (alpha_p | '_') >> *(alnum_p | '_');

@@ -3,6 +3,7 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/parse/ParseError.h"
 #include "base/script/ScriptBuilder.h"
+#include "base/script/xml/XMLValueText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -16,6 +17,20 @@ const char* const WhiteSpace = " \t\r\n";
 bool isText(const pugi::xml_node& node)
 {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+}
+
+// The offset in `text` of a line and column counted from 1 within it.
+size_t offsetOf(const std::string& text, const ScriptPosition& position)
+{
+    size_t lineStart = 0;
+    for (int line = 1; line < position.line && lineStart != std::string::npos; ++line) {
+        lineStart = text.find('\n', lineStart);
+        if (lineStart != std::string::npos)
+            ++lineStart;
+    }
+    if (lineStart == std::string::npos)
+        return text.size();
+    return std::min(text.size(), lineStart + static_cast<size_t>(std::max(position.column, 1)) - 1);
 }
 
 bool isBlank(const char* text)
@@ -55,9 +70,11 @@ void XMLScriptParser::read(bool propertiesOnly)
 
 void XMLScriptParser::parseDocument()
 {
-    // Whitespace in attribute values is kept as written: a comment may span lines.
-    const unsigned int options =
-        (pugi::parse_default & ~pugi::parse_wconv_attribute) | pugi::parse_doctype;
+    // Whitespace in attribute values is kept as written: a comment may span lines. As a
+    // fragment the document keeps the text around its root, which is refused below,
+    // instead of dropping it unseen.
+    const unsigned int options = (pugi::parse_default & ~pugi::parse_wconv_attribute)
+                                 | pugi::parse_doctype | pugi::parse_fragment;
     const pugi::xml_parse_result result =
         document_.load_buffer(text_.data(), text_.size(), options, pugi::encoding_utf8);
     if (!result)
@@ -68,9 +85,25 @@ void XMLScriptParser::parseDocument()
         if (node.type() == pugi::node_doctype)
             raise(node, "XML scripts take no document type declaration.");
     const pugi::xml_node root = document_.document_element();
+    if (!root)
+        ExceptionUtils::raiseAt<ParseError>(positionOf(static_cast<std::ptrdiff_t>(text_.size())),
+                                            "Expecting <script> as the root element of an XML "
+                                            "script.");
+    for (pugi::xml_node node = root.previous_sibling(); node; node = node.previous_sibling())
+        if (isText(node) && !isBlank(node.value()))
+            raise(node, "Expecting <script> as the root element of an XML script, not text.");
     if (std::strcmp(root.name(), "script") != 0)
         raise(root,
               "Expecting <script> as the root element of an XML script, not " + tag(root) + ".");
+    // The parser takes what follows the root as more of the document; a script that
+    // went on there would lose it unseen.
+    for (pugi::xml_node node = root.next_sibling(); node; node = node.next_sibling()) {
+        if (node.type() == pugi::node_element)
+            raise(node, "Expecting nothing after the root element <script>, not " + tag(node)
+                            + ".");
+        if (isText(node) && !isBlank(node.value()))
+            raise(node, "Expecting nothing after the root element <script>, not text.");
+    }
 }
 
 void XMLScriptParser::readScriptElement(const pugi::xml_node& script, bool propertiesOnly)
@@ -133,25 +166,22 @@ void XMLScriptParser::readBinding(const pugi::xml_node& element, const std::stri
     builder_.bind(input, peer.substr(0, point), peer.substr(point + 1), position);
 }
 
-// The value text is what the element's text children hold, entities replaced; its
-// position is that of its first character that is not white space.
+// The value text is what the element's text children hold, entities replaced, without
+// the white space around it; places within it are found again in the source.
 void XMLScriptParser::readValue(const pugi::xml_node& element, const std::string& port)
 {
-    std::string value;
-    pugi::xml_node start;
-    for (const pugi::xml_node& child : element.children()) {
-        if (!start && !isBlank(child.value()))
-            start = child;
-        if (start)
-            value += child.value();
-    }
-    if (!start)
+    const XMLValueText valueText(element, text_);
+    const std::string& all = valueText.getText();
+    const size_t leading = all.find_first_not_of(WhiteSpace);
+    if (leading == std::string::npos)
         raise(element, "The input \"" + port + "\" has neither a value nor a peer.");
-    const size_t leading = value.find_first_not_of(WhiteSpace);
-    value = value.substr(leading, value.find_last_not_of(WhiteSpace) + 1 - leading);
+    const std::string value = all.substr(leading, all.find_last_not_of(WhiteSpace) + 1 - leading);
     InputPort& input = builder_.takePort(port, positionOf(element));
-    builder_.setValueText(input, value,
-                          positionOf(start.offset_debug() + static_cast<std::ptrdiff_t>(leading)));
+    auto locate = [&](const ScriptPosition& inText) {
+        return positionOf(static_cast<std::ptrdiff_t>(
+            valueText.getSourceOffset(leading + offsetOf(value, inText))));
+    };
+    builder_.setValueText(input, value, locate(ScriptPosition{filename_, 1, 1}), locate);
 }
 
 void XMLScriptParser::addProperty(const pugi::xml_node& element)

@@ -1,5 +1,7 @@
 #include "base/script/xml/XMLScriptWriter.h"
 
+#include "base/error/ExceptionUtils.h"
+#include "base/error/FileException.h"
 #include "base/graph/ContainerFunctor.h"
 #include "base/graph/PortScope.h"
 #include "base/script/Script.h"
@@ -8,20 +10,36 @@
 
 #include <pugixml.hpp>
 
+#include <sstream>
+
 namespace VRK {
 
 namespace {
 
-void appendProperties(pugi::xml_node parent, const Properties& properties)
+// XML has no way to spell a NUL character, not even as a reference: text holding one
+// would be cut there, so it is refused.
+const char* textOf(const std::string& text, const std::string& what, const std::string& filename)
+{
+    if (text.find('\0') != std::string::npos)
+        ExceptionUtils::raise<FileException>("The script cannot be written to \"" + filename
+                                             + "\": " + what
+                                             + " holds a NUL character, which XML cannot hold.");
+    return text.c_str();
+}
+
+void appendProperties(pugi::xml_node parent, const Properties& properties,
+                      const std::string& filename)
 {
     for (const auto& property : properties.getAll()) {
+        const std::string what = "the property \"" + property.first + "\"";
         pugi::xml_node element = parent.append_child("property");
-        element.append_attribute("name") = property.first.c_str();
-        element.append_attribute("value") = property.second.c_str();
+        element.append_attribute("name") = textOf(property.first, what, filename);
+        element.append_attribute("value") = textOf(property.second, what, filename);
     }
 }
 
-void appendInputs(pugi::xml_node parent, const Functor& functor, const ScriptWritingPlan& plan)
+void appendInputs(pugi::xml_node parent, const Functor& functor, const ScriptWritingPlan& plan,
+                  const std::string& filename)
 {
     for (const InputPort* port : PortScope::getAllInputs(functor)) {
         if (!plan.isWritten(*port))
@@ -31,22 +49,42 @@ void appendInputs(pugi::xml_node parent, const Functor& functor, const ScriptWri
         if (port->isBound())
             input.append_attribute("peer") = plan.getReference(*port).c_str();
         else
-            input.text() = ScriptWritingPlan::getValueText(*port).c_str();
+            input.text() = textOf(ScriptWritingPlan::getValueText(*port),
+                                  "the value of the input \"" + port->getName() + "\" of \""
+                                      + functor.getName() + "\"",
+                                  filename);
     }
 }
 
-void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWritingPlan& plan)
+void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWritingPlan& plan,
+                   const std::string& filename)
 {
     pugi::xml_node element = parent.append_child("functor");
     element.append_attribute("name") = functor.getName().c_str();
     const std::string alias = plan.getAlias(functor);
     if (!alias.empty())
         element.append_attribute("alias") = alias.c_str();
-    appendProperties(element, functor.getProperties());
-    appendInputs(element, functor, plan);
+    appendProperties(element, functor.getProperties(), filename);
+    appendInputs(element, functor, plan, filename);
     if (auto* container = functor.asContainer())
         for (const auto& inner : container->getFunctors())
-            appendFunctor(element, *inner, plan);
+            appendFunctor(element, *inner, plan, filename);
+}
+
+// pugixml writes a carriage return in element text as it is, and every reader of XML
+// takes it for a line end: it is written as a character reference instead. Element text
+// is the only place where the saved document holds one.
+void saveEscapingCarriageReturns(const pugi::xml_document& document, std::ostream& out)
+{
+    std::ostringstream saved;
+    document.save(saved, "    ", pugi::format_indent, pugi::encoding_utf8);
+    const std::string text = saved.str();
+    size_t done = 0;
+    for (size_t at = text.find('\r'); at != std::string::npos; at = text.find('\r', done)) {
+        out.write(text.data() + done, static_cast<std::streamsize>(at - done)) << "&#13;";
+        done = at + 1;
+    }
+    out.write(text.data() + done, static_cast<std::streamsize>(text.size() - done));
 }
 
 } // namespace
@@ -71,10 +109,10 @@ void XMLScriptWriter::writeImpl(Script* script, std::ostream& out, const std::st
     declaration.append_attribute("version") = "1.0";
     declaration.append_attribute("encoding") = "UTF-8";
     pugi::xml_node root = document.append_child("script");
-    appendProperties(root, script->getProperties());
+    appendProperties(root, script->getProperties(), filename);
     for (const auto& functor : script->getFunctors())
-        appendFunctor(root, *functor, plan);
-    document.save(out, "    ", pugi::format_indent, pugi::encoding_utf8);
+        appendFunctor(root, *functor, plan, filename);
+    saveEscapingCarriageReturns(document, out);
 }
 
 } // namespace VRK

@@ -1,0 +1,61 @@
+#include "base/script/ScriptTextInput.h"
+
+#include "base/error/ExceptionUtils.h"
+#include "base/error/FileException.h"
+
+#include <ios>
+#include <new>
+
+namespace VRK {
+
+namespace {
+
+const std::string ByteOrderMark = "\xEF\xBB\xBF";
+
+// How much is left in `buffer`, where it can tell; 0 otherwise (a pipe).
+std::streamoff remainingSize(std::streambuf& buffer)
+{
+    const std::streamoff here = buffer.pubseekoff(0, std::ios::cur, std::ios::in);
+    const std::streamoff end = buffer.pubseekoff(0, std::ios::end, std::ios::in);
+    if (here < 0 || end < here || buffer.pubseekpos(here, std::ios::in) != here)
+        return 0;
+    return end - here;
+}
+
+// Taken in blocks rather than character by character, into room made beforehand where
+// the size is known; like a stream buffer iterator it leaves the stream's state alone.
+std::string remainingText(std::streambuf& buffer)
+{
+    std::string text;
+    text.reserve(static_cast<size_t>(remainingSize(buffer)));
+    char block[16384];
+    for (std::streamsize count; (count = buffer.sgetn(block, sizeof block)) > 0;)
+        text.append(block, static_cast<size_t>(count));
+    return text;
+}
+
+} // namespace
+
+std::string ScriptTextInput::readAll(std::istream& in, const std::string& description)
+{
+    std::string text;
+    std::streambuf* buffer = in.rdbuf();
+    std::string reason;
+    try {
+        if (buffer)
+            text = remainingText(*buffer);
+    } catch (const std::ios_base::failure& error) {
+        reason = error.code().message();
+    } catch (const std::bad_alloc&) {
+        reason = "it does not fit in memory";
+    }
+    if (reason.empty() && in.bad())
+        reason = "the stream failed";
+    if (!reason.empty())
+        ExceptionUtils::raise<FileException>(description + " cannot be read: " + reason + ".");
+    if (text.compare(0, ByteOrderMark.size(), ByteOrderMark) == 0)
+        text.erase(0, ByteOrderMark.size());
+    return text;
+}
+
+} // namespace VRK
