@@ -20,6 +20,7 @@
 #include "plugins/prim/BoolFunctor.h"
 #include "plugins/prim/BoolReader.h"
 #include "plugins/prim/BoolWriter.h"
+#include "plugins/prim/CreateStringFunctor.h"
 #include "plugins/prim/DoWhileFunctor.h"
 #include "plugins/prim/DoubleData.h"
 #include "plugins/prim/DoubleEditor.h"
@@ -58,12 +59,17 @@
 #include "plugins/prim/NameEditor.h"
 #include "plugins/prim/NameFunctor.h"
 #include "plugins/prim/NameReader.h"
+#include "plugins/prim/NameValueFunctor.h"
 #include "plugins/prim/NameWriter.h"
 #include "plugins/prim/NonNegativeIntData.h"
 #include "plugins/prim/NonNegativeIntEditor.h"
 #include "plugins/prim/NonNegativeIntFunctor.h"
 #include "plugins/prim/NonNegativeIntReader.h"
 #include "plugins/prim/NonNegativeIntWriter.h"
+#include "plugins/prim/NumberFolderFunctor.h"
+#include "plugins/prim/NumberPathFunctor.h"
+#include "plugins/prim/NumberStringFunctor.h"
+#include "plugins/prim/NumberValueFunctor.h"
 #include "plugins/prim/PathData.h"
 #include "plugins/prim/PathEditor.h"
 #include "plugins/prim/PathFunctor.h"
@@ -82,6 +88,9 @@
 #include "plugins/prim/PrimTypes.h"
 #include "plugins/prim/ProcessorPolicyFunctor.h"
 #include "plugins/prim/RepeatFunctor.h"
+#include "plugins/prim/SelectFolderFunctor.h"
+#include "plugins/prim/SelectPathFunctor.h"
+#include "plugins/prim/SelectStringFunctor.h"
 #include "plugins/prim/SetWhileConditionFunctor.h"
 #include "plugins/prim/SkipOnErrorFunctor.h"
 #include "plugins/prim/StepFunctor.h"
@@ -124,6 +133,7 @@ void registerHostServices(PrimRegistrar& registrar)
 void registerFunctors(PrimRegistrar& registrar)
 {
     registrar.registerFunctor<Bool>("Bool", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<CreateString>("CreateString", "Map Algebra");
     registrar.registerFunctor<Double>("Double", "Map Algebra (Suppl.)");
     registrar.registerFunctor<Exit>("Exit", "Control");
     registrar.registerFunctor<Folder>("Folder", "Map Algebra (Suppl.)");
@@ -139,12 +149,20 @@ void registerFunctors(PrimRegistrar& registrar)
     registrar.registerFunctor<MuxValue>("MuxValue", "Control", {"MuxDouble"});
     registrar.registerFunctor<DoWhile>("DoWhile", "Control");
     registrar.registerFunctor<Name>("Name", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<NameValue>("NameValue", "Map Algebra (Suppl.)");
     registrar.registerFunctor<NonNegativeInt>("NonNegativeInt", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<NumberFolder>("NumberFolder", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<NumberPath>("NumberPath", "Stack (Suppl.)");
+    registrar.registerFunctor<NumberString>("NumberString", "Map Algebra (Suppl.)");
+    registrar.registerFunctor<NumberValue>("NumberValue", "Map Algebra (Suppl.)");
     registrar.registerFunctor<Path>("Path", "Map Algebra (Suppl.)");
     registrar.registerFunctor<Percent>("Percent", "Map Algebra (Suppl.)");
     registrar.registerFunctor<PositiveInt>("PositiveInt", "Map Algebra (Suppl.)");
     registrar.registerFunctor<ProcessorPolicy>("ProcessorPolicy", "Control");
     registrar.registerFunctor<Repeat>("Repeat", "Control");
+    registrar.registerFunctor<SelectFolder>("SelectFolder", "Stack");
+    registrar.registerFunctor<SelectPath>("SelectPath", "Stack");
+    registrar.registerFunctor<SelectString>("SelectString", "Stack");
     registrar.registerFunctor<SetWhileCondition>("SetWhileCondition", "Control");
     registrar.registerFunctor<SkipOnError>("SkipOnError", "Control");
     registrar.registerFunctor<Step>("Step", "Control");

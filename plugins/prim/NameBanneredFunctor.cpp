@@ -1,0 +1,23 @@
+#include "plugins/prim/NameBanneredFunctor.h"
+
+#include "plugins/prim/RegistratorBanner.h"
+
+namespace Prim {
+
+NameBanneredFunctor::NameBanneredFunctor(const std::string& name, const std::string& description,
+                                         const std::string& namePort,
+                                         const std::shared_ptr<VRK::BaseType>& type)
+    : VRK::Functor(name, description, type), namePort_(namePort)
+{
+}
+
+NameBanneredFunctor::~NameBanneredFunctor() = default;
+
+bool NameBanneredFunctor::hasBanner() const { return requireInputPort(namePort_).hasDataEditor(); }
+
+std::string NameBanneredFunctor::getBanner() const
+{
+    return RegistratorBanner::name(requireInputPort(namePort_));
+}
+
+} // namespace Prim

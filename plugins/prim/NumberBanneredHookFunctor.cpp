@@ -1,0 +1,35 @@
+#include "plugins/prim/NumberBanneredHookFunctor.h"
+
+#include "plugins/prim/PositiveIntType.h"
+#include "plugins/prim/RegistratorBanner.h"
+
+namespace Prim {
+
+NumberBanneredHookFunctor::NumberBanneredHookFunctor(const std::string& name,
+                                                     const std::string& description,
+                                                     const std::string& numberPort,
+                                                     const std::shared_ptr<VRK::BaseType>& type)
+    : VRK::HookFunctor(name, description, type), numberPort_(numberPort)
+{
+}
+
+NumberBanneredHookFunctor::~NumberBanneredHookFunctor() = default;
+
+void NumberBanneredHookFunctor::addValueAndNumberPorts(
+    const std::shared_ptr<VRK::BaseType>& valueType)
+{
+    addInputPort("value", "Any value.", valueType, false);
+    addInputPort(numberPort_, "Value number identifier.", PositiveIntType::getInstance(), false);
+}
+
+bool NumberBanneredHookFunctor::hasBanner() const
+{
+    return requireInputPort(numberPort_).hasDataEditor();
+}
+
+std::string NumberBanneredHookFunctor::getBanner() const
+{
+    return RegistratorBanner::number(requireInputPort(numberPort_));
+}
+
+} // namespace Prim

@@ -1,0 +1,64 @@
+#include "plugins/prim/RegistratorBanner.h"
+
+#include "base/error/Exception.h"
+#include "base/error/ExceptionUtils.h"
+#include "plugins/prim/DoubleEditor.h"
+#include "plugins/prim/FolderEditor.h"
+#include "plugins/prim/NameEditor.h"
+#include "plugins/prim/PositiveIntEditor.h"
+#include "plugins/prim/StringEditor.h"
+
+#include <sstream>
+
+namespace Prim {
+
+template <class EditorT>
+const EditorT* RegistratorBanner::editorOf(const VRK::InputPort& port, const char* editorClass)
+{
+    const VRK::DataEditor* editor = port.getDataEditor();
+    if (!editor)
+        return nullptr;
+    const auto* typed = dynamic_cast<const EditorT*>(editor);
+    if (!typed)
+        VRK::ExceptionUtils::raise<VRK::Exception>("Unable to convert the editor of input port \""
+                                                   + port.getName() + "\" to " + editorClass);
+    return typed;
+}
+
+std::string RegistratorBanner::number(const VRK::InputPort& numberPort)
+{
+    const auto* editor = editorOf<PositiveIntEditor>(numberPort, "PositiveIntEditor");
+    return editor ? "#" + std::to_string(editor->getPositiveInt()) : "<undefined>";
+}
+
+std::string RegistratorBanner::name(const VRK::InputPort& namePort)
+{
+    const auto* editor = editorOf<NameEditor>(namePort, "NameEditor");
+    return editor ? "Name \"" + editor->getName() + "\"" : "Name <undefined>";
+}
+
+// The value's own editor may be missing or of another kind when the value comes from a
+// binding: the banner then shows the key alone.
+std::string RegistratorBanner::realValue(const VRK::InputPort& valuePort)
+{
+    const auto* editor = dynamic_cast<const DoubleEditor*>(valuePort.getDataEditor());
+    if (!editor)
+        return std::string();
+    std::ostringstream text;
+    text << " is " << editor->getDouble();
+    return text.str();
+}
+
+std::string RegistratorBanner::stringValue(const VRK::InputPort& valuePort)
+{
+    const auto* editor = dynamic_cast<const StringEditor*>(valuePort.getDataEditor());
+    return editor ? " is \"" + editor->getString() + "\"" : std::string();
+}
+
+std::string RegistratorBanner::folderValue(const VRK::InputPort& valuePort)
+{
+    const auto* editor = dynamic_cast<const FolderEditor*>(valuePort.getDataEditor());
+    return editor ? " is \"" + editor->getFilename() + "\"" : std::string();
+}
+
+} // namespace Prim
