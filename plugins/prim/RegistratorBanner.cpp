@@ -12,10 +12,19 @@
 
 namespace Prim {
 
+namespace {
+// A bound port keeps its editor, but what the editor holds is not what the port will
+// receive: the banner shows it as unknown.
+const VRK::DataEditor* typedInEditor(const VRK::InputPort& port)
+{
+    return port.isBound() ? nullptr : port.getDataEditor();
+}
+} // namespace
+
 template <class EditorT>
 const EditorT* RegistratorBanner::editorOf(const VRK::InputPort& port, const char* editorClass)
 {
-    const VRK::DataEditor* editor = port.getDataEditor();
+    const VRK::DataEditor* editor = typedInEditor(port);
     if (!editor)
         return nullptr;
     const auto* typed = dynamic_cast<const EditorT*>(editor);
@@ -37,11 +46,9 @@ std::string RegistratorBanner::name(const VRK::InputPort& namePort)
     return editor ? "Name \"" + editor->getName() + "\"" : "Name <undefined>";
 }
 
-// The value's own editor may be missing or of another kind when the value comes from a
-// binding: the banner then shows the key alone.
 std::string RegistratorBanner::realValue(const VRK::InputPort& valuePort)
 {
-    const auto* editor = dynamic_cast<const DoubleEditor*>(valuePort.getDataEditor());
+    const auto* editor = dynamic_cast<const DoubleEditor*>(typedInEditor(valuePort));
     if (!editor)
         return std::string();
     std::ostringstream text;
@@ -51,13 +58,13 @@ std::string RegistratorBanner::realValue(const VRK::InputPort& valuePort)
 
 std::string RegistratorBanner::stringValue(const VRK::InputPort& valuePort)
 {
-    const auto* editor = dynamic_cast<const StringEditor*>(valuePort.getDataEditor());
+    const auto* editor = dynamic_cast<const StringEditor*>(typedInEditor(valuePort));
     return editor ? " is \"" + editor->getString() + "\"" : std::string();
 }
 
 std::string RegistratorBanner::folderValue(const VRK::InputPort& valuePort)
 {
-    const auto* editor = dynamic_cast<const FolderEditor*>(valuePort.getDataEditor());
+    const auto* editor = dynamic_cast<const FolderEditor*>(typedInEditor(valuePort));
     return editor ? " is \"" + editor->getFilename() + "\"" : std::string();
 }
 

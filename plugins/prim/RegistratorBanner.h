@@ -11,12 +11,13 @@ namespace Prim {
 // and the value itself when it is typed in.
 class RegistratorBanner {
 public:
+    // A bound port counts as one without an editor.
     // "#" and the number, or "<undefined>" when the port has no editor.
     static std::string number(const VRK::InputPort& numberPort);
     // "Name", a blank and the quoted name, or "Name <undefined>".
     static std::string name(const VRK::InputPort& namePort);
     // " is " and the value as a real number in six significant digits, or nothing when
-    // the port holds no real-number editor.
+    // the port holds no real-number editor (a value of a type below Double, or bound).
     static std::string realValue(const VRK::InputPort& valuePort);
     // " is " and the quoted text of a string or a folder, or nothing when the port holds
     // no editor of that kind.

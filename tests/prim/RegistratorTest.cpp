@@ -144,11 +144,13 @@ TEST_F(Registrators, DeclareTheirTypesPortsAndFlags)
 
 TEST_F(Registrators, BannersShowKeyAndTypedInValue)
 {
-    auto script = read("a := NumberValue value = 2.5 valueNumber = 3;"
-                       "b := NumberString value = \"dry\" valueNumber = 1;"
-                       "c := NumberFolder value = \"inputs\" valueNumber = 2;"
-                       "d := NameValue value = 1234567 valueName = \"rate\";"
-                       "e := NumberValue value = 0.1234567 valueNumber = 4;");
+    auto script =
+        read("a := NumberValue value = 2.5 valueNumber = 3;"
+             "b := NumberString value = \"dry\" valueNumber = 1;"
+             "c := NumberFolder value = \"inputs\" valueNumber = 2;"
+             "d := NameValue value = 1234567 valueName = \"rate\";"
+             "e := NumberValue value = 0.1234567 valueNumber = 4;"
+             "x := Double constant = 3; f := NumberValue value = x.object valueNumber = 5;");
     EXPECT_EQ(script->findFunctorByAlias("a")->getBanner(), "Value #3 is 2.5");
     EXPECT_EQ(script->findFunctorByAlias("b")->getBanner(), "Value #1 is \"dry\"");
     // Without a work directory the folder is known by its full form.
@@ -159,6 +161,8 @@ TEST_F(Registrators, BannersShowKeyAndTypedInValue)
     EXPECT_EQ(editor.getCompoundFilename().getFilename(), "inputs");
     EXPECT_EQ(script->findFunctorByAlias("d")->getBanner(), "Name \"rate\"");
     EXPECT_EQ(script->findFunctorByAlias("e")->getBanner(), "Value #4 is 0.123457");
+    // A bound value is not known before the run.
+    EXPECT_EQ(script->findFunctorByAlias("f")->getBanner(), "Value #5");
 
     VRK::Functor& number = *script->findFunctorByAlias("a");
     number.getInputPort("valueNumber")->setDataEditor(nullptr);
