@@ -12,14 +12,16 @@ namespace {
 
 const std::string ByteOrderMark = "\xEF\xBB\xBF";
 
-// How much is left in `buffer`, where it can tell; 0 otherwise (a pipe).
-std::streamoff remainingSize(std::streambuf& buffer)
+// How much is left in `buffer`, where it can tell; 0 otherwise (a pipe, or a folder,
+// which seeks to no true end).
+size_t remainingSize(std::streambuf& buffer, size_t limit)
 {
     const std::streamoff here = buffer.pubseekoff(0, std::ios::cur, std::ios::in);
     const std::streamoff end = buffer.pubseekoff(0, std::ios::end, std::ios::in);
-    if (here < 0 || end < here || buffer.pubseekpos(here, std::ios::in) != here)
+    if (here < 0 || end < here || buffer.pubseekpos(here, std::ios::in) != here
+        || static_cast<unsigned long long>(end - here) >= limit)
         return 0;
-    return end - here;
+    return static_cast<size_t>(end - here);
 }
 
 // Taken in blocks rather than character by character, into room made beforehand where
@@ -27,7 +29,7 @@ std::streamoff remainingSize(std::streambuf& buffer)
 std::string remainingText(std::streambuf& buffer)
 {
     std::string text;
-    text.reserve(static_cast<size_t>(remainingSize(buffer)));
+    text.reserve(remainingSize(buffer, text.max_size()));
     char block[16384];
     for (std::streamsize count; (count = buffer.sgetn(block, sizeof block)) > 0;)
         text.append(block, static_cast<size_t>(count));

@@ -3,6 +3,7 @@
 #include "base/util/PathUtils.h"
 
 #include "plugins/prim/FilenameEditor.h"
+#include "plugins/prim/PathEditor.h"
 #include "plugins/prim/PrimEditorUtils.h"
 
 namespace Prim {
@@ -23,11 +24,10 @@ std::ostream& FilenameWriter::write(std::ostream& out, int) const
     // Outside any work directory a filename has no relative form of its own; it is
     // printed relative to the folder the script is written to, so that a script keeps
     // naming the same files wherever it is moved together with them.
-    const std::string relative = editor_->getRelativeFilename();
-    if (!relative.empty())
-        return out << '"' << relative << '"';
-    return out << '"' << VRK::Boost::PathUtils::getRelativePath(editor_->getFullFilename()).string()
-               << '"';
+    std::string text = editor_->getRelativeFilename();
+    if (text.empty())
+        text = VRK::Boost::PathUtils::getRelativePath(editor_->getFullFilename()).string();
+    return out << '"' << PathEditor::denormalisePath(text) << '"';
 }
 
 } // namespace Prim

@@ -10,6 +10,13 @@
 
 namespace Prim {
 
+namespace {
+
+// What paths may begin with, dropped when they are set.
+const std::string Prefix = "//:";
+
+} // namespace
+
 PathEditor::PathEditor()
     : VRK::DataEditor("PathEditor", "Editor for file paths", PathType::getInstance()),
       value_("path")
@@ -39,11 +46,16 @@ PathEditor::path PathEditor::getRelativePath() const
 
 std::string PathEditor::normalisePath(const std::string& text)
 {
-    static const std::string prefix = "//:";
     std::string normalised =
-        text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
+        text.compare(0, Prefix.size(), Prefix) == 0 ? text.substr(Prefix.size()) : text;
     std::replace(normalised.begin(), normalised.end(), '\\', '/');
     return normalised;
+}
+
+std::string PathEditor::denormalisePath(const std::string& path)
+{
+    const bool changedByNormalising = path.empty() || path.compare(0, Prefix.size(), Prefix) == 0;
+    return changedByNormalising ? Prefix + path : path;
 }
 
 } // namespace Prim

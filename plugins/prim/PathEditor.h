@@ -30,6 +30,9 @@ public:
     // A path as a user may write it, in the form this system stores: a leading "//:"
     // dropped, back slashes turned into forward slashes. Filenames use it too.
     static std::string normalisePath(const std::string& text);
+    // The text that normalisePath turns back into `path`, for writers: a path that is
+    // empty or begins with "//:" itself gets the prefix that normalisation drops.
+    static std::string denormalisePath(const std::string& path);
 
 private:
     path value_;

@@ -12,7 +12,8 @@ PathWriter::PathWriter(const VRK::DataEditor* dataEditor)
 
 std::ostream& PathWriter::write(std::ostream& out, int) const
 {
-    return out << '"' << editor_->getRelativePath().generic_string() << '"';
+    return out << '"' << PathEditor::denormalisePath(editor_->getRelativePath().generic_string())
+               << '"';
 }
 
 } // namespace Prim

@@ -1,0 +1,79 @@
+#!/usr/bin/env bash
+# Writes replace their target atomically and tidily: the target's permissions stay, a
+# symbolic link stays a link and its file is written, a name at the file system's limit
+# is written, a write beyond the size limit on files (SIGXFSZ) fails with status 1, and
+# SIGTERM or SIGINT during a write end it with 143 or 130; none leaves a temporary file.
+# SIGTERM also cancels a run (143), and a script too large for memory is refused.
+set -u
+vrk="$1"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 1
+failed=0
+fail() { echo "FAIL $*"; failed=1; }
+no_temporaries() { [ -z "$(find . -name '.*.tmp')" ] || fail "$1 left $(find . -name '.*.tmp')"; }
+
+printf 'b := Bool constant = .yes;\n' > small.vrk
+printf 'old\n' > kept.vrk
+chmod 600 kept.vrk
+"$vrk" convert small.vrk kept.vrk || fail "kept.vrk is not written"
+[ "$(stat -c %a kept.vrk)" = 600 ] || fail "the mode became $(stat -c %a kept.vrk)"
+
+printf 'old\n' > real.vrk
+ln -s real.vrk link.vrk
+"$vrk" convert small.vrk link.vrk || fail "link.vrk is not written"
+[ -L link.vrk ] || fail "the symbolic link was replaced by a file"
+cmp -s real.vrk small.vrk || fail "the link's file was not written"
+
+long=$(printf 'n%.0s' $(seq 1 246)).vrk
+"$vrk" convert small.vrk "$long" && [ -s "$long" ] || fail "a name of ${#long} characters is not written"
+
+python3 -c "
+print('\n'.join('s%d := String constant = \"%s\";' % (i, 'x' * 200) for i in range(6000)))" > big.vrk
+printf 'old\n' > limited.vrk
+(ulimit -f 100; "$vrk" convert big.vrk limited.vrk 2> limited.err)
+status=$?
+[ "$status" = 1 ] || fail "a write beyond the size limit ended with status $status"
+grep -q "cannot be written" limited.err || fail "no reason given: $(cat limited.err)"
+[ "$(cat limited.vrk)" = old ] || fail "the size limit changed the target"
+no_temporaries "the size limit"
+
+# The signal comes while the temporary file is being written.
+for signal in TERM INT; do
+    rm -f "signalled.vrk"
+    "$vrk" convert big.vrk signalled.vrk &
+    pid=$!
+    for _ in $(seq 1 3000); do
+        [ -n "$(find . -name '.signalled.vrk.*.tmp')" ] && break
+        sleep 0.01
+    done
+    kill "-$signal" "$pid"
+    wait "$pid"
+    status=$?
+    expected=143
+    [ "$signal" = INT ] && expected=130
+    [ "$status" = "$expected" ] || fail "SIG$signal during a write ended with status $status"
+    no_temporaries "SIG$signal"
+done
+
+cat > forever.vrk <<'SCRIPT'
+forever := While initialCondition = .yes condition = again.condition {
+    again := SetWhileCondition condition = .yes;
+}
+SCRIPT
+"$vrk" run forever.vrk --log-level .result &
+pid=$!
+sleep 0.5
+kill -TERM "$pid"
+wait "$pid"
+status=$?
+[ "$status" = 143 ] || fail "SIGTERM during a run ended with status $status"
+
+truncate -s 200G huge.vrk
+(ulimit -v 4000000; "$vrk" check huge.vrk 2> huge.err)
+status=$?
+[ "$status" = 2 ] || fail "a script too large for memory ended with status $status"
+grep -q "does not fit in memory" huge.err || fail "no reason given: $(cat huge.err)"
+
+[ "$failed" -eq 0 ] && echo "writes kept modes and links, took long names and left nothing behind"
+[ "$failed" -eq 0 ]
