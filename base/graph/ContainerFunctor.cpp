@@ -1,5 +1,6 @@
 #include "base/graph/ContainerFunctor.h"
 
+#include "base/graph/FunctorWalk.h"
 #include "base/plugin/FactoryFarmManager.h"
 
 namespace VRK {
@@ -34,9 +35,55 @@ void ContainerFunctor::copyContentsFrom(const ContainerFunctor& other)
         addFunctor(cloner->create(*functor), false);
 }
 
+namespace {
+
+// The recursive operations below reach the functors inside a container through one walk
+// of their own rather than through nested calls, so that no depth of nesting exhausts
+// the machine stack. The walk still calls every functor's own override; when it calls
+// a container's, that container leaves its contents to the walk already under way.
+enum class Operation { ToStream, SetLevel, ResetOutputs, PreparePorts, Prepare, Added, Erased };
+
+struct ContentsWalk {
+    Operation operation;
+    const Functor* visiting;
+};
+
+thread_local ContentsWalk currentWalk{Operation::ToStream, nullptr};
+
+// Calls `visit(functor, depth)` for every functor inside `container`, depth 1 for its
+// direct contents, unless the walk of `operation` on this thread is visiting it.
+template <class Visit>
+void forEachWithin(const ContainerFunctor& container, Operation operation, const Visit& visit)
+{
+    if (currentWalk.visiting == &container && currentWalk.operation == operation)
+        return;
+    const ContentsWalk outer = currentWalk;
+    struct Restore {
+        const ContentsWalk& outer;
+        ~Restore() { currentWalk = outer; }
+    } restore{outer};
+    FunctorWalk::walk(
+        container,
+        [&](Functor& functor, size_t depth) {
+            currentWalk = ContentsWalk{operation, &functor};
+            visit(functor, depth);
+        },
+        [](ContainerFunctor&, size_t) {});
+}
+
+} // namespace
+
 void ContainerFunctor::toStream(std::ostream& out, int indent) const
 {
     Functor::toStream(out, indent);
+    writeInternalPorts(out, indent);
+    forEachWithin(*this, Operation::ToStream, [&](Functor& functor, size_t depth) {
+        functor.toStream(out, indent + static_cast<int>(depth));
+    });
+}
+
+void ContainerFunctor::writeInternalPorts(std::ostream& out, int indent) const
+{
     for (const auto& port : internalOutputs_) {
         nestIndent(out, indent + 1) << "internal output ";
         port->toStream(out, 0);
@@ -47,15 +94,13 @@ void ContainerFunctor::toStream(std::ostream& out, int indent) const
         port->toStream(out, 0);
         out << '\n';
     }
-    for (const auto& functor : getFunctors())
-        functor->toStream(out, indent + 1);
 }
 
 void ContainerFunctor::setLevel(size_t level)
 {
     Functor::setLevel(level);
-    for (const auto& functor : getFunctors())
-        functor->setLevel(level + 1);
+    forEachWithin(*this, Operation::SetLevel,
+                  [&](Functor& functor, size_t depth) { functor.setLevel(level + depth); });
 }
 
 void ContainerFunctor::resetInputPortData(bool feedback)
@@ -71,22 +116,21 @@ void ContainerFunctor::resetOutputPortData(bool recursive)
     Functor::resetOutputPortData(recursive);
     if (!recursive)
         return;
-    for (const auto& functor : getFunctors())
-        functor->resetOutputPortData(recursive);
+    forEachWithin(*this, Operation::ResetOutputs,
+                  [](Functor& functor, size_t) { functor.resetOutputPortData(true); });
 }
 
 void ContainerFunctor::preparePorts()
 {
     Functor::preparePorts();
-    for (const auto& functor : getFunctors())
-        functor->preparePorts();
+    forEachWithin(*this, Operation::PreparePorts,
+                  [](Functor& functor, size_t) { functor.preparePorts(); });
 }
 
 void ContainerFunctor::prepare()
 {
     Functor::prepare();
-    for (const auto& functor : getFunctors())
-        functor->prepare();
+    forEachWithin(*this, Operation::Prepare, [](Functor& functor, size_t) { functor.prepare(); });
 }
 
 void ContainerFunctor::runImpl() { runContainerImpl(); }
@@ -94,29 +138,32 @@ void ContainerFunctor::runImpl() { runContainerImpl(); }
 void ContainerFunctor::onContainerAdded(FunctorContainer& container)
 {
     Functor::onContainerAdded(container);
-    for (const auto& functor : getFunctors())
-        functor->onIndirectContainerAdded(container, 1);
+    forEachWithin(*this, Operation::Added, [&](Functor& functor, size_t depth) {
+        functor.onIndirectContainerAdded(container, depth);
+    });
 }
 
 void ContainerFunctor::onContainerErased()
 {
     Functor::onContainerErased();
-    for (const auto& functor : getFunctors())
-        functor->onIndirectContainerErased(1);
+    forEachWithin(*this, Operation::Erased,
+                  [](Functor& functor, size_t depth) { functor.onIndirectContainerErased(depth); });
 }
 
 void ContainerFunctor::onIndirectContainerAdded(FunctorContainer& container, size_t depth)
 {
     Functor::onIndirectContainerAdded(container, depth);
-    for (const auto& functor : getFunctors())
-        functor->onIndirectContainerAdded(container, depth + 1);
+    forEachWithin(*this, Operation::Added, [&](Functor& functor, size_t below) {
+        functor.onIndirectContainerAdded(container, depth + below);
+    });
 }
 
 void ContainerFunctor::onIndirectContainerErased(size_t depth)
 {
     Functor::onIndirectContainerErased(depth);
-    for (const auto& functor : getFunctors())
-        functor->onIndirectContainerErased(depth + 1);
+    forEachWithin(*this, Operation::Erased, [&](Functor& functor, size_t below) {
+        functor.onIndirectContainerErased(depth + below);
+    });
 }
 
 bool ContainerFunctor::isCompatible(Functor* functor) const

@@ -79,6 +79,7 @@ public:
 
 private:
     void copyContentsFrom(const ContainerFunctor& other);
+    void writeInternalPorts(std::ostream& out, int indent) const;
 
     std::vector<std::shared_ptr<StrongInputPort>> internalInputs_;
     std::vector<std::shared_ptr<OutputPort>> internalOutputs_;

@@ -1,5 +1,6 @@
 #include "base/graph/FunctorContainer.h"
 
+#include "base/graph/ContainerFunctor.h"
 #include "base/graph/Functor.h"
 #include "base/plugin/FactoryFarmManager.h"
 
@@ -21,7 +22,22 @@ Functor* FunctorContainer::FunctorIterator::next() const
 
 bool FunctorContainer::FunctorIterator::hasNext() const { return index_ < functors_.size(); }
 
-FunctorContainer::~FunctorContainer() = default;
+// The contents are taken apart level by level here: left to the nested destructors of
+// their containers they would take the machine stack as deep as the nesting goes.
+FunctorContainer::~FunctorContainer()
+{
+    std::vector<std::shared_ptr<Functor>> released = std::move(functors_);
+    while (!released.empty()) {
+        std::shared_ptr<Functor> functor = std::move(released.back());
+        released.pop_back();
+        FunctorContainer* inner = functor.use_count() == 1 ? functor->asContainer() : nullptr;
+        if (!inner)
+            continue;
+        for (auto& content : inner->functors_)
+            released.push_back(std::move(content));
+        inner->functors_.clear();
+    }
+}
 
 Functor* FunctorContainer::createFunctor(const std::string& name, bool notify)
 {
@@ -48,13 +64,8 @@ void FunctorContainer::addFunctor(const std::shared_ptr<Functor>& functor, bool 
     functor->setContainer(this);
     const Functor* self = asFunctor();
     functor->setLevel(self ? self->getLevel() + 1 : 0);
-    if (!notify)
-        return;
-    functor->onContainerAdded(*this);
-    size_t depth = 1;
-    for (FunctorContainer* outer = getParentContainer(); outer;
-         outer = outer->getParentContainer(), ++depth)
-        functor->onIndirectContainerAdded(*outer, depth);
+    if (notify)
+        functor->onContainerAdded(*this);
 }
 
 void FunctorContainer::eraseFunctor(Functor* functor, bool notify)

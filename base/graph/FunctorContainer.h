@@ -30,6 +30,9 @@ public:
     virtual Functor* createFunctor(const std::string& name, bool notify);
     // Moves a functor from its present container into this one.
     virtual void transferFunctor(Functor* functor, bool notify);
+    // With `notify`, the functor hears of its new container (`onContainerAdded`), and
+    // every functor inside it of the same container at its depth below it
+    // (`onIndirectContainerAdded`): one call a functor placed, however deep the nesting.
     virtual void addFunctor(const std::shared_ptr<Functor>& functor, bool notify);
     virtual void eraseFunctor(Functor* functor, bool notify);
     virtual Functor* getFunctor(size_t index) const;

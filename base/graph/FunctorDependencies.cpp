@@ -4,6 +4,8 @@
 #include "base/error/GraphException.h"
 #include "base/graph/ContainerFunctor.h"
 #include "base/graph/FunctorNameUtils.h"
+#include "base/graph/FunctorWalk.h"
+#include "base/graph/PortScope.h"
 
 #include <algorithm>
 #include <functional>
@@ -32,18 +34,80 @@ void forEachInputWithin(const Functor& functor, const std::function<void(const I
 
 FunctorDependencies::FunctorDependencies(const FunctorContainer& container) : container_(container)
 {
-    for (const auto& functor : container.getFunctors()) {
+    listContents();
+    for (size_t index = 0; index < functors_.size(); ++index)
+        addEdgesInto(index, *functors_[index]);
+    sortPredecessors();
+}
+
+FunctorDependencies::FunctorDependencies(const FunctorContainer& container,
+                                         const std::vector<Edge>& edges)
+    : container_(container)
+{
+    listContents();
+    for (const Edge& edge : edges)
+        predecessors_[indexes_.at(edge.second)].push_back(indexes_.at(edge.first));
+    sortPredecessors();
+}
+
+void FunctorDependencies::listContents()
+{
+    for (const auto& functor : container_.getFunctors()) {
         indexes_[functor.get()] = functors_.size();
         functors_.push_back(functor.get());
     }
     predecessors_.resize(functors_.size());
-    for (size_t index = 0; index < functors_.size(); ++index) {
-        addEdgesInto(index, *functors_[index]);
-        auto& predecessors = predecessors_[index];
+}
+
+void FunctorDependencies::sortPredecessors()
+{
+    for (auto& predecessors : predecessors_) {
         std::sort(predecessors.begin(), predecessors.end());
         predecessors.erase(std::unique(predecessors.begin(), predecessors.end()),
                            predecessors.end());
     }
+}
+
+namespace {
+
+// The two ancestors-or-selves of `reader` and `producer` that sit side by side in the
+// innermost container holding both; the same functor twice when one holds the other.
+FunctorDependencies::Edge meet(Functor* producer, Functor* reader)
+{
+    auto up = [](Functor*& functor) {
+        FunctorContainer* container = functor->getContainer();
+        Functor* outer = container ? container->asFunctor() : nullptr;
+        if (outer)
+            functor = outer;
+        return outer != nullptr;
+    };
+    while (producer->getLevel() > reader->getLevel() && up(producer)) {
+    }
+    while (reader->getLevel() > producer->getLevel() && up(reader)) {
+    }
+    while (producer != reader && producer->getContainer() != reader->getContainer() && up(producer)
+           && up(reader)) {
+    }
+    return FunctorDependencies::Edge(producer, reader);
+}
+
+} // namespace
+
+std::unordered_map<const FunctorContainer*, std::vector<FunctorDependencies::Edge>>
+FunctorDependencies::collectAll(const FunctorContainer& script)
+{
+    std::unordered_map<const FunctorContainer*, std::vector<Edge>> edges;
+    FunctorWalk::forEach(script, [&](Functor& reader) {
+        for (const InputPort* port : PortScope::getAllInputs(reader)) {
+            if (!port->isBound() || port->isFeedback() || !port->getPeer()->getOwner())
+                continue;
+            const Edge edge = meet(port->getPeer()->getOwner(), &reader);
+            if (edge.first != edge.second
+                && edge.first->getContainer() == edge.second->getContainer())
+                edges[edge.first->getContainer()].push_back(edge);
+        }
+    });
+    return edges;
 }
 
 void FunctorDependencies::addEdgesInto(size_t index, const Functor& reader)

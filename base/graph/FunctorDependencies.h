@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace VRK {
@@ -17,7 +18,18 @@ class FunctorContainer;
 // how a loop may close a cycle.
 class FunctorDependencies {
 public:
+    // A producing content before a reading one, both directly inside one container.
+    using Edge = std::pair<Functor*, Functor*>;
+
     explicit FunctorDependencies(const FunctorContainer& container);
+    // The dependencies of `container` when its edges are known already.
+    FunctorDependencies(const FunctorContainer& container, const std::vector<Edge>& edges);
+
+    // The edges of every container inside `script`, the script included, found in one
+    // pass over its bound inputs: each read makes an edge only in the innermost
+    // container that holds both ends, so nothing is walked once per enclosing container.
+    static std::unordered_map<const FunctorContainer*, std::vector<Edge>>
+    collectAll(const FunctorContainer& script);
 
     // The direct contents in script order; the indexes below refer to this list.
     const std::vector<Functor*>& getFunctors() const { return functors_; }
@@ -32,6 +44,8 @@ public:
     static Functor* liftToContainer(Functor* functor, const FunctorContainer& container);
 
 private:
+    void listContents();
+    void sortPredecessors();
     void addEdgesInto(size_t index, const Functor& reader);
     [[noreturn]] void raiseCycle(const std::vector<size_t>& unordered) const;
 

@@ -162,10 +162,16 @@ void NonIntrusiveScriptVerifier::checkContents(const ContainerFunctor& container
 
 void NonIntrusiveScriptVerifier::checkCycles(const Script& script) const
 {
-    FunctorDependencies(script).getOrder();
-    FunctorWalk::forEach(script, [](const Functor& functor) {
-        if (const ContainerFunctor* inner = functor.asContainer())
-            FunctorDependencies(*inner).getOrder();
+    // Only containers with edges can hold a cycle. Ordered in script order, so that of
+    // two cycles the one met first is the one reported.
+    const auto edges = FunctorDependencies::collectAll(script);
+    if (edges.count(&script))
+        FunctorDependencies(script, edges.at(&script)).getOrder();
+    FunctorWalk::forEach(script, [&](const Functor& functor) {
+        const ContainerFunctor* inner = functor.asContainer();
+        auto found = inner ? edges.find(inner) : edges.end();
+        if (found != edges.end())
+            FunctorDependencies(*inner, found->second).getOrder();
     });
 }
 
