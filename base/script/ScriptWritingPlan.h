@@ -1,6 +1,7 @@
 #ifndef VRK_BASE_SCRIPT_SCRIPTWRITINGPLAN_H
 #define VRK_BASE_SCRIPT_SCRIPTWRITINGPLAN_H
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <string>
@@ -51,6 +52,14 @@ public:
     // 0.10000000000000001, all seventeen where it takes them), without an exponent
     // where seventeen digits allow it (100 rather than 1e+02).
     static std::string getValueText(const InputPort& port);
+    // The levels of indentation of a line at nesting `depth`: they stop growing at
+    // MaxIndentLevels, so that deep nesting does not make the text grow with the square
+    // of its depth.
+    static size_t indentLevels(size_t depth)
+    {
+        return depth < MaxIndentLevels ? depth : MaxIndentLevels;
+    }
+    static const size_t MaxIndentLevels = 16;
 
 private:
     void assignAliases();

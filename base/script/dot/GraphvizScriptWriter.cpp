@@ -39,9 +39,9 @@ std::string label(const Functor& functor)
     return text;
 }
 
-std::ostream& indent(std::ostream& out, int depth)
+std::ostream& indent(std::ostream& out, size_t depth)
 {
-    return out << std::string(static_cast<size_t>(depth) * 4, ' ');
+    return out << std::string(ScriptWritingPlan::indentLevels(depth) * 4, ' ');
 }
 
 } // namespace
@@ -60,24 +60,19 @@ void GraphvizScriptWriter::writeImpl(Script* script, std::ostream& out, const st
     });
     out << "digraph script {\n";
     indent(out, 1) << "node [shape = box];\n";
-    writeContents(*script, ids, 1, out);
+    FunctorWalk::walk(
+        *script, [&](const Functor& functor, size_t depth) { writeNode(functor, ids, depth, out); },
+        [&](const ContainerFunctor&, size_t depth) { indent(out, depth) << "}\n"; });
     FunctorWalk::forEach(*script, [&](const Functor& functor) { writeEdges(functor, ids, out); });
     out << "}\n";
 }
 
-void GraphvizScriptWriter::writeContents(const FunctorContainer& container, const NodeIds& ids,
-                                         int depth, std::ostream& out)
-{
-    for (const auto& functor : container.getFunctors())
-        writeNode(*functor, ids, depth, out);
-}
-
-void GraphvizScriptWriter::writeNode(const Functor& functor, const NodeIds& ids, int depth,
+// Opens a container's cluster; the walk writes its contents and closes it.
+void GraphvizScriptWriter::writeNode(const Functor& functor, const NodeIds& ids, size_t depth,
                                      std::ostream& out)
 {
     const std::string& id = ids.at(&functor);
-    auto* container = functor.asContainer();
-    if (!container) {
+    if (!functor.asContainer()) {
         indent(out, depth) << id << " [label = " << quote(label(functor)) << "];\n";
         return;
     }
@@ -85,8 +80,6 @@ void GraphvizScriptWriter::writeNode(const Functor& functor, const NodeIds& ids,
     indent(out, depth + 1) << "label = " << quote(functor.getName()) << ";\n";
     indent(out, depth + 1) << id << " [label = " << quote(label(functor))
                            << ", style = rounded];\n";
-    writeContents(*container, ids, depth + 1, out);
-    indent(out, depth) << "}\n";
 }
 
 void GraphvizScriptWriter::writeEdges(const Functor& functor, const NodeIds& ids, std::ostream& out)

@@ -3,6 +3,7 @@
 
 #include "base/script/ScriptWriter.h"
 
+#include <cstddef>
 #include <map>
 #include <set>
 #include <string>
@@ -10,7 +11,6 @@
 namespace VRK {
 
 class Functor;
-class FunctorContainer;
 
 // Draws a script as a Graphviz graph (".dot"): one cluster per container, one node per
 // functor showing its name (with its alias) and its banner, one edge per binding from
@@ -29,9 +29,8 @@ protected:
 private:
     using NodeIds = std::map<const Functor*, std::string>;
 
-    static void writeContents(const FunctorContainer& container, const NodeIds& ids, int depth,
-                              std::ostream& out);
-    static void writeNode(const Functor& functor, const NodeIds& ids, int depth, std::ostream& out);
+    static void writeNode(const Functor& functor, const NodeIds& ids, size_t depth,
+                          std::ostream& out);
     static void writeEdges(const Functor& functor, const NodeIds& ids, std::ostream& out);
 };
 

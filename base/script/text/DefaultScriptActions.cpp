@@ -120,16 +120,18 @@ void DefaultScriptActions::beginContents(const ScriptIterator& first, const Scri
     builder_.beginContents(positionOf(first));
 }
 
-void DefaultScriptActions::endContents(const ScriptIterator&, const ScriptIterator&)
+void DefaultScriptActions::endContents(const ScriptIterator& first, const ScriptIterator&)
 {
-    assert(!open_.empty() && "contents close only after they open");
+    if (open_.empty())
+        raise(first, "Expecting a functor name.");
     open_.pop_back();
     builder_.endContents();
 }
 
-void DefaultScriptActions::unclosedContents(const ScriptIterator& first, const ScriptIterator&)
+void DefaultScriptActions::endOfStatements(const ScriptIterator& first, const ScriptIterator&)
 {
-    assert(!open_.empty() && "contents close only after they open");
+    if (open_.empty())
+        return;
     const OpenContents& open = open_.back();
     raise(first, "Expecting a functor name or \"}\" to close the contents of " + open.functor
                      + " opened at line " + std::to_string(open.position.line) + ", column "

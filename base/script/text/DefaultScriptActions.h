@@ -38,8 +38,11 @@ public:
     [[noreturn]] void unterminatedFunctor(const ScriptIterator& first, const ScriptIterator& last);
 
     void beginContents(const ScriptIterator& first, const ScriptIterator& last);
+    // A "}": it closes the innermost open contents; with none open it stands where a
+    // functor name should.
     void endContents(const ScriptIterator& first, const ScriptIterator& last);
-    [[noreturn]] void unclosedContents(const ScriptIterator& first, const ScriptIterator& last);
+    // Where the statements end: every contents opened must have been closed.
+    void endOfStatements(const ScriptIterator& first, const ScriptIterator& last);
 
     // An input name and its "=": the input that the following value or reference sets.
     void port(const ScriptIterator& first, const ScriptIterator& last);

@@ -88,24 +88,26 @@ struct DefaultScriptGrammar::definition {
                    >> '=')[on(a, &DefaultScriptActions::port)]
                   >> (reference | InPlaceValueParser(a));
 
-        contents = str_p("{")[on(a, &DefaultScriptActions::beginContents)] >> *statement
-                   >> (str_p("}")[on(a, &DefaultScriptActions::endContents)]
-                       | eps_p[on(a, &DefaultScriptActions::unclosedContents)]);
+        // A container's braces are statements of their own, matched against an explicit
+        // stack in the actions: nesting costs no machine stack, however deep it goes.
+        closing = str_p("}")[on(a, &DefaultScriptActions::endContents)];
 
-        functor = !(identifier[on(a, &DefaultScriptActions::word)]
-                    >> str_p(":=")[([&a](const ScriptIterator&, const ScriptIterator&) {
-                          a.aliasDefined();
-                      })])
-                  >> transduced_assertive_p(functorName, "Expecting a functor name.") >> *binding
-                  >> (str_p(";") | contents
-                      | eps_p[on(a, &DefaultScriptActions::unterminatedFunctor)]);
+        functor =
+            !(identifier[on(a, &DefaultScriptActions::word)] >> str_p(
+                  ":=")[([&a](const ScriptIterator&, const ScriptIterator&) { a.aliasDefined(); })])
+            >> transduced_assertive_p(functorName, "Expecting a functor name.") >> *binding
+            >> (str_p(";") | str_p("{")[on(a, &DefaultScriptActions::beginContents)]
+                | eps_p[on(a, &DefaultScriptActions::unterminatedFunctor)]);
 
-        statement = eps_p(ch_p('@') | alpha_p | '_')
-                    >> ((+property
-                         >> (str_p(";")[on(a, &DefaultScriptActions::scriptProperties)] | functor))
-                        | functor);
+        statement =
+            eps_p(ch_p('@') | alpha_p | '_')
+                >> ((+property
+                     >> (str_p(";")[on(a, &DefaultScriptActions::scriptProperties)] | functor))
+                    | functor)
+            | closing;
 
-        script = *statement >> transduced_assertive_p(end_p, "Expecting a functor name.");
+        script = *statement >> eps_p[on(a, &DefaultScriptActions::endOfStatements)]
+                 >> transduced_assertive_p(end_p, "Expecting a functor name.");
 
         scriptProperties =
             *(+property >> str_p(";")[on(a, &DefaultScriptActions::scriptProperties)]);
@@ -115,8 +117,8 @@ struct DefaultScriptGrammar::definition {
 
     const Rule& start() const { return *start_; }
 
-    Rule identifier, quoted, property, functorName, reference, binding, contents, functor,
-        statement, script, scriptProperties;
+    Rule identifier, quoted, property, functorName, reference, binding, closing, functor, statement,
+        script, scriptProperties;
     const Rule* start_;
 };
 

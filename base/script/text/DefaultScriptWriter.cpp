@@ -1,6 +1,7 @@
 #include "base/script/text/DefaultScriptWriter.h"
 
 #include "base/graph/ContainerFunctor.h"
+#include "base/graph/FunctorWalk.h"
 #include "base/graph/PortScope.h"
 #include "base/script/Script.h"
 #include "base/util/QuotedText.h"
@@ -39,12 +40,18 @@ void DefaultScriptWriter::writeImpl(Script* script, std::ostream& out, const std
     plan.check(filename);
     writeScriptProperties(*script, out);
     bool first = true;
-    for (const auto& functor : script->getFunctors()) {
-        if (separateTopLevel_ && !first)
-            out << '\n';
-        writeFunctor(*functor, plan, 0, out);
-        first = false;
-    }
+    FunctorWalk::walk(
+        *script,
+        [&](const Functor& functor, size_t depth) {
+            if (depth == 1 && separateTopLevel_ && !first)
+                out << '\n';
+            first = false;
+            writeFunctor(functor, plan, depth - 1, out);
+        },
+        [&](const ContainerFunctor& container, size_t depth) {
+            if (container.getFunctorCount() != 0)
+                indent(out, depth - 1) << "}\n";
+        });
 }
 
 void DefaultScriptWriter::writeScriptProperties(const Script& script, std::ostream& out) const
@@ -56,8 +63,9 @@ void DefaultScriptWriter::writeScriptProperties(const Script& script, std::ostre
     out << '\n';
 }
 
+// Opens a container's braces; the walk writes its contents and closes them.
 void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWritingPlan& plan,
-                                       int depth, std::ostream& out) const
+                                       size_t depth, std::ostream& out) const
 {
     if (writeProperties_)
         for (const auto& property : functor.getProperties().getAll())
@@ -70,18 +78,12 @@ void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWriti
     out << functor.getName();
     writeInputs(functor, plan, out);
     auto* container = functor.asContainer();
-    if (!container) {
+    if (!container)
         out << ";\n";
-        return;
-    }
-    if (container->getFunctorCount() == 0) {
+    else if (container->getFunctorCount() == 0)
         out << " { }\n";
-        return;
-    }
-    out << " {\n";
-    for (const auto& inner : container->getFunctors())
-        writeFunctor(*inner, plan, depth + 1, out);
-    indent(out, depth) << "}\n";
+    else
+        out << " {\n";
 }
 
 void DefaultScriptWriter::writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
@@ -95,9 +97,9 @@ void DefaultScriptWriter::writeInputs(const Functor& functor, const ScriptWritin
     }
 }
 
-std::ostream& DefaultScriptWriter::indent(std::ostream& out, int depth) const
+std::ostream& DefaultScriptWriter::indent(std::ostream& out, size_t depth) const
 {
-    return out << std::string(static_cast<size_t>(depth * indentWidth_), ' ');
+    return out << std::string(ScriptWritingPlan::indentLevels(depth) * size_t(indentWidth_), ' ');
 }
 
 } // namespace VRK

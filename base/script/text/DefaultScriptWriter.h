@@ -4,6 +4,7 @@
 #include "base/script/ScriptWriter.h"
 #include "base/script/ScriptWritingPlan.h"
 
+#include <cstddef>
 #include <ostream>
 #include <set>
 #include <string>
@@ -42,11 +43,11 @@ protected:
 
 private:
     void writeScriptProperties(const Script& script, std::ostream& out) const;
-    void writeFunctor(const Functor& functor, const ScriptWritingPlan& plan, int depth,
+    void writeFunctor(const Functor& functor, const ScriptWritingPlan& plan, size_t depth,
                       std::ostream& out) const;
     static void writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
                             std::ostream& out);
-    std::ostream& indent(std::ostream& out, int depth) const;
+    std::ostream& indent(std::ostream& out, size_t depth) const;
 
     int indentWidth_;
     bool writeProperties_;

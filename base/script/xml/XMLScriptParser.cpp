@@ -114,14 +114,35 @@ void XMLScriptParser::readScriptElement(const pugi::xml_node& script, bool prope
             addProperty(child);
             builder_.attachPropertiesToScript(positionOf(child));
         } else if (!propertiesOnly && std::strcmp(child.name(), "functor") == 0) {
-            readFunctor(child);
+            readFunctorTree(child);
         }
     }
 }
 
+// Depth first with a stack of its own: each entry is a container element and the next
+// of its <functor> children to read, so nesting costs no machine stack.
+void XMLScriptParser::readFunctorTree(const pugi::xml_node& element)
+{
+    std::vector<pugi::xml_node> open;
+    if (readFunctor(element))
+        open.push_back(element.child("functor"));
+    while (!open.empty()) {
+        const pugi::xml_node inner = open.back();
+        if (!inner) {
+            builder_.endContents();
+            open.pop_back();
+            continue;
+        }
+        open.back() = inner.next_sibling("functor");
+        if (readFunctor(inner))
+            open.push_back(inner.child("functor"));
+    }
+}
+
 // Properties go first, as the builder hands them to the functor it creates next; then
-// the inputs, which the builder takes from the current functor; then the contents.
-void XMLScriptParser::readFunctor(const pugi::xml_node& element)
+// the inputs, which the builder takes from the current functor; then the contents,
+// whose reading is left to the caller.
+bool XMLScriptParser::readFunctor(const pugi::xml_node& element)
 {
     checkElement(element, {"name", "alias"}, {"property", "input", "functor"});
     for (const pugi::xml_node& property : element.children("property"))
@@ -132,11 +153,9 @@ void XMLScriptParser::readFunctor(const pugi::xml_node& element)
         readInput(input);
     const pugi::xml_node first = element.child("functor");
     if (!first)
-        return;
+        return false;
     builder_.beginContents(positionOf(first));
-    for (const pugi::xml_node& inner : element.children("functor"))
-        readFunctor(inner);
-    builder_.endContents();
+    return true;
 }
 
 void XMLScriptParser::readInput(const pugi::xml_node& element)

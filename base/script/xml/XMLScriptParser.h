@@ -29,7 +29,9 @@ public:
 private:
     void parseDocument();
     void readScriptElement(const pugi::xml_node& script, bool propertiesOnly);
-    void readFunctor(const pugi::xml_node& element);
+    void readFunctorTree(const pugi::xml_node& element);
+    // Reads one functor; true when it has contents, which are then open in the builder.
+    bool readFunctor(const pugi::xml_node& element);
     void readInput(const pugi::xml_node& element);
     void readBinding(const pugi::xml_node& element, const std::string& port,
                      const std::string& peer);

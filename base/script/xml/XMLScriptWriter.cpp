@@ -3,6 +3,7 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/error/FileException.h"
 #include "base/graph/ContainerFunctor.h"
+#include "base/graph/FunctorWalk.h"
 #include "base/graph/PortScope.h"
 #include "base/script/Script.h"
 #include "base/script/ScriptWritingPlan.h"
@@ -11,6 +12,9 @@
 #include <pugixml.hpp>
 
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace VRK {
 
@@ -56,8 +60,18 @@ void appendInputs(pugi::xml_node parent, const Functor& functor, const ScriptWri
     }
 }
 
-void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWritingPlan& plan,
-                   const std::string& filename)
+// A line break and the indentation of a line at `depth`, as a text node before `next`
+// in `parent` (at its end when `next` is null).
+void breakLine(pugi::xml_node parent, size_t depth, pugi::xml_node next = pugi::xml_node())
+{
+    const std::string text = "\n" + std::string(ScriptWritingPlan::indentLevels(depth) * 4, ' ');
+    pugi::xml_node line = next ? parent.insert_child_before(pugi::node_pcdata, next)
+                               : parent.append_child(pugi::node_pcdata);
+    line.set_value(text.c_str());
+}
+
+pugi::xml_node appendFunctor(pugi::xml_node parent, const Functor& functor,
+                             const ScriptWritingPlan& plan, const std::string& filename)
 {
     pugi::xml_node element = parent.append_child("functor");
     element.append_attribute("name") = functor.getName().c_str();
@@ -66,9 +80,43 @@ void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWr
         element.append_attribute("alias") = alias.c_str();
     appendProperties(element, functor.getProperties(), filename);
     appendInputs(element, functor, plan, filename);
-    if (auto* container = functor.asContainer())
-        for (const auto& inner : container->getFunctors())
-            appendFunctor(element, *inner, plan, filename);
+    return element;
+}
+
+// The document is built with a stack of its own and indented by hand, every element
+// that holds elements on lines of its own: the library's indenting would make deep
+// nesting grow with the square of its depth.
+void appendScript(pugi::xml_node root, const Script& script, const ScriptWritingPlan& plan,
+                  const std::string& filename)
+{
+    appendProperties(root, script.getProperties(), filename);
+    std::vector<pugi::xml_node> open{root};
+    FunctorWalk::walk(
+        script,
+        [&](const Functor& functor, size_t) {
+            pugi::xml_node element = appendFunctor(open.back(), functor, plan, filename);
+            if (functor.asContainer())
+                open.push_back(element);
+        },
+        [&](const ContainerFunctor&, size_t) { open.pop_back(); });
+}
+
+// Puts each child element of every element that has any on a line of its own.
+void indent(pugi::xml_node root)
+{
+    std::vector<std::pair<pugi::xml_node, size_t>> pending{{root, 0}};
+    while (!pending.empty()) {
+        const auto [element, depth] = pending.back();
+        pending.pop_back();
+        if (!element.find_child(
+                [](pugi::xml_node child) { return child.type() == pugi::node_element; }))
+            continue;
+        for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling()) {
+            breakLine(element, depth + 1, child);
+            pending.emplace_back(child, depth + 1);
+        }
+        breakLine(element, depth);
+    }
 }
 
 // pugixml writes a carriage return in element text as it is, and every reader of XML
@@ -77,7 +125,7 @@ void appendFunctor(pugi::xml_node parent, const Functor& functor, const ScriptWr
 void saveEscapingCarriageReturns(const pugi::xml_document& document, std::ostream& out)
 {
     std::ostringstream saved;
-    document.save(saved, "    ", pugi::format_indent, pugi::encoding_utf8);
+    document.save(saved, "", pugi::format_raw, pugi::encoding_utf8);
     const std::string text = saved.str();
     size_t done = 0;
     for (size_t at = text.find('\r'); at != std::string::npos; at = text.find('\r', done)) {
@@ -109,9 +157,10 @@ void XMLScriptWriter::writeImpl(Script* script, std::ostream& out, const std::st
     declaration.append_attribute("version") = "1.0";
     declaration.append_attribute("encoding") = "UTF-8";
     pugi::xml_node root = document.append_child("script");
-    appendProperties(root, script->getProperties(), filename);
-    for (const auto& functor : script->getFunctors())
-        appendFunctor(root, *functor, plan, filename);
+    appendScript(root, *script, plan, filename);
+    indent(root);
+    document.append_child(pugi::node_pcdata).set_value("\n");
+    document.insert_child_after(pugi::node_pcdata, declaration).set_value("\n");
     saveEscapingCarriageReturns(document, out);
 }
 
