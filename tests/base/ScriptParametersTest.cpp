@@ -98,6 +98,17 @@ TEST(ScriptParameters, SetTheValuesOfAliasedFunctors)
                      "The input \"value\" of \"s\" (TestSink) is bound to an output: a parameter "
                      "cannot set it.",
                      1, 1);
+    // A place within a value over several lines on the command line.
+    try {
+        VRK::ScriptParameters::apply(
+            *script, VRK::ScriptParameters::parseAssignment("n.constant=\n 4\n  x"));
+        ADD_FAILURE() << "no error for a value over three lines";
+    } catch (const VRK::ParseError& error) {
+        EXPECT_EQ(error.getScriptPosition().file, VRK::ScriptParameters::AssignmentFile);
+        EXPECT_EQ(error.getMessage(), "Unexpected text after the value.");
+        EXPECT_EQ(error.getScriptPosition().line, 3);
+        EXPECT_EQ(error.getScriptPosition().column, 3);
+    }
     EXPECT_THROW(VRK::ScriptParameters::parseAssignment("n.constant"), VRK::ParseError);
     EXPECT_THROW(VRK::ScriptParameters::parseAssignment("constant=3"), VRK::ParseError);
 }
