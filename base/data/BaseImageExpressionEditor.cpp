@@ -1,0 +1,7 @@
+#include "base/data/BaseImageExpressionEditor.h"
+
+namespace VRK {
+
+BaseImageExpressionEditor::~BaseImageExpressionEditor() = default;
+
+} // namespace VRK

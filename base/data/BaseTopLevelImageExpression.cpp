@@ -1,0 +1,7 @@
+#include "base/data/BaseTopLevelImageExpression.h"
+
+namespace VRK {
+
+BaseTopLevelImageExpression::~BaseTopLevelImageExpression() = default;
+
+} // namespace VRK

@@ -1,0 +1,7 @@
+#include "tessaly/images/ImageExpressionVisitor.h"
+
+namespace Tessaly {
+
+ImageExpressionVisitor::~ImageExpressionVisitor() = default;
+
+} // namespace Tessaly
