@@ -82,4 +82,15 @@ void PrimEnvironmentUtils::flattenValueEnvironment(
     logEntities(out);
 }
 
+void PrimEnvironmentUtils::flattenValueEnvironment(
+    std::vector<double>& out, const std::map<std::string, double>& env,
+    const Tessaly::ImageExpression& expression,
+    const Tessaly::ImageExpressionDictionary& dictionary)
+{
+    std::set<int> indexes;
+    expression.getValueDependencies(indexes);
+    flattenValueEnvironment(out, env, indexes,
+                            [&](int index) { return dictionary.getVariableName(index); });
+}
+
 } // namespace Prim

@@ -2,6 +2,8 @@
 #define VRK_PLUGINS_PRIM_PRIMENVIRONMENTUTILS_H
 
 #include "base/graph/ContainerFunctor.h"
+#include "tessaly/images/ImageExpression.h"
+#include "tessaly/images/ImageExpressionDictionary.h"
 
 #include <functional>
 #include <map>
@@ -34,6 +36,11 @@ public:
                                         const std::map<std::string, double>& env,
                                         const std::set<int>& indexes,
                                         const std::function<std::string(int)>& variableName);
+    // The same for the values that `expression` uses, named by `dictionary`.
+    static void flattenValueEnvironment(std::vector<double>& out,
+                                        const std::map<std::string, double>& env,
+                                        const Tessaly::ImageExpression& expression,
+                                        const Tessaly::ImageExpressionDictionary& dictionary);
 };
 
 } // namespace Prim

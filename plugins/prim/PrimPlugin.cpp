@@ -38,6 +38,10 @@
 #include "plugins/prim/GroupFunctor.h"
 #include "plugins/prim/IfNotThenFunctor.h"
 #include "plugins/prim/IfThenFunctor.h"
+#include "plugins/prim/ImageExpressionData.h"
+#include "plugins/prim/ImageExpressionEditor.h"
+#include "plugins/prim/ImageExpressionReader.h"
+#include "plugins/prim/ImageExpressionWriter.h"
 #include "plugins/prim/IntData.h"
 #include "plugins/prim/IntEditor.h"
 #include "plugins/prim/IntFunctor.h"
@@ -103,6 +107,7 @@
 #include "plugins/prim/ValueJunctionFunctor.h"
 #include "plugins/prim/WhileFunctor.h"
 #include "plugins/prim/WorkdirData.h"
+#include "plugins/prim/WorkdirFunctor.h"
 
 namespace Prim {
 
@@ -170,6 +175,7 @@ void registerFunctors(PrimRegistrar& registrar)
     registrar.registerFunctor<ValueJunction>("ValueJunction", "Control",
                                              {"JoinDouble", "JoinValue"});
     registrar.registerFunctor<StringJunction>("StringJunction", "Control");
+    registrar.registerFunctor<Workdir>("Workdir", "Input/Output");
     registrar.registerFunctor<While>("While", "Control");
 }
 
@@ -180,6 +186,7 @@ void registerDataClasses(PrimRegistrar& registrar)
     registrar.registerData<BoolData>();
     registrar.registerData<DoubleData>();
     registrar.registerData<FolderData>();
+    registrar.registerData<ImageExpressionData>();
     registrar.registerData<IntData>();
     registrar.registerData<IntSetData>();
     registrar.registerData<LogTagData>();
@@ -197,6 +204,7 @@ void registerDataHolders(PrimRegistrar& registrar)
     registrar.registerDataHolder<BoolEditor>();
     registrar.registerDataHolder<DoubleEditor>();
     registrar.registerDataHolder<FolderEditor>();
+    registrar.registerDataHolder<ImageExpressionEditor>();
     registrar.registerDataHolder<IntEditor>();
     registrar.registerDataHolder<IntSetEditor>();
     registrar.registerDataHolder<LogTagEditor>();
@@ -230,11 +238,16 @@ void registerDataReadersFor(PrimRegistrar& registrar, const std::string& scanner
     registrar.registerDataReader<StringReader<ScannerT>, ScannerT>("String", algebra, scanner);
 }
 
-// The image-expression reader registers itself with the expression language.
+// The formula reader of each scanner comes after all the others.
 void registerDataReaders(PrimRegistrar& registrar)
 {
     registerDataReadersFor<VRK::ScriptScanner>(registrar, VRK::ScriptScannerName);
     registerDataReadersFor<VRK::PlainScanner>(registrar, VRK::PlainScannerName);
+    const std::string algebra = "Map Algebra (Suppl.)";
+    registrar.registerDataReader<ImageExpressionReader<VRK::ScriptScanner>, VRK::ScriptScanner>(
+        "ImageExpression", algebra, VRK::ScriptScannerName);
+    registrar.registerDataReader<ImageExpressionReader<VRK::PlainScanner>, VRK::PlainScanner>(
+        "ImageExpression", algebra, VRK::PlainScannerName);
 }
 
 void registerDataWriters(PrimRegistrar& registrar)
@@ -244,6 +257,7 @@ void registerDataWriters(PrimRegistrar& registrar)
     registrar.registerDataWriter<BoolWriter>("Bool", algebra);
     registrar.registerDataWriter<DoubleWriter>("Double", algebra);
     registrar.registerDataWriter<FolderWriter>("Folder", algebra);
+    registrar.registerDataWriter<ImageExpressionWriter>("ImageExpression", algebra);
     registrar.registerDataWriter<IntSetWriter>("IntSet", algebra);
     registrar.registerDataWriter<IntWriter>("Int", algebra);
     registrar.registerDataWriter<LogTagWriter>("LogTag", control);

@@ -4,6 +4,7 @@
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/FolderType.h"
+#include "plugins/prim/ImageExpressionType.h"
 #include "plugins/prim/IntSetType.h"
 #include "plugins/prim/IntType.h"
 #include "plugins/prim/LogTagType.h"
@@ -37,7 +38,7 @@ void PrimTypes::instantiateAll()
                 IntSetType, StringType, NameType, PathType, FolderType, WorkdirType, LogTagType,
                 NamedValueRegistratorType, NumberedValueRegistratorType,
                 NumberedFolderRegistratorType, NumberedPathRegistratorType,
-                NumberedStringRegistratorType, MultiplexerType>();
+                NumberedStringRegistratorType, MultiplexerType, ImageExpressionType>();
 }
 
 } // namespace Prim

@@ -1,0 +1,103 @@
+#include "plugins/calc/CalculateValueFunctor.h"
+
+#include "base/error/Exception.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/run/ContainerFunctorUtils.h"
+#include "base/util/Singleton.h"
+#include "plugins/prim/DoubleData.h"
+#include "plugins/prim/DoubleType.h"
+#include "plugins/prim/ImageExpressionData.h"
+#include "plugins/prim/ImageExpressionType.h"
+#include "plugins/prim/NamedValueRegistratorType.h"
+#include "plugins/prim/NumberedValueRegistratorType.h"
+#include "plugins/prim/PrimEnvironmentUtils.h"
+#include "tessaly/images/EvaluationContext.h"
+
+#include <cassert>
+#include <cmath>
+#include <map>
+
+namespace Calc {
+
+namespace {
+
+const char* const ExpressionPort = "expression";
+const char* const ResultPort = "result";
+
+bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>& type)
+{
+    return functor.getType()->getName() == type->getName();
+}
+
+void refuse(const Tessaly::TopLevelImageExpression& expression, const std::string& problem)
+{
+    VRK::ExceptionUtils::raise<VRK::Exception>("The expression \"" + expression.toString()
+                                               + "\" " + problem);
+}
+
+} // namespace
+
+CalculateValue::CalculateValue()
+    : VRK::ContainerFunctor("CalculateValue",
+                            "Calculates a value from a formula over the values registered "
+                            "inside it.",
+                            nullptr)
+{
+    addInputPort(ExpressionPort, "The formula, over numbered (v1) and named ($name) values.",
+                 Prim::ImageExpressionType::getInstance(), false);
+    addOutputPort(ResultPort, "The value of the formula.", Prim::DoubleType::getInstance());
+}
+
+CalculateValue::~CalculateValue() = default;
+
+bool CalculateValue::isCompatible(VRK::Functor* functor) const
+{
+    assert(functor != 0 && "functor != 0");
+    return functor->getType() != 0
+           && (hasTypeOf(*functor, VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance())
+               || hasTypeOf(*functor,
+                            VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance()));
+}
+
+void CalculateValue::runContainerImpl()
+{
+    VRK::ContainerFunctorUtils::runFunctorsInContainer(*this, VRK::warning);
+    double result = 0;
+    try {
+        result = calculate();
+    } catch (VRK::Exception& error) {
+        error.setScriptPosition(getPosition());
+        throw;
+    }
+    setOutputPortValue<Prim::DoubleData>(ResultPort, result);
+}
+
+// The shared formula is compiled in a copy, so that passes running at once never
+// write to it.
+double CalculateValue::calculate()
+{
+    Tessaly::TopLevelImageExpression expression =
+        *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
+    expression.compile();
+    if (!expression.getDependencies(Tessaly::EntityKind::Image).empty())
+        refuse(expression, "reads an image, which CalculateValue does not provide.");
+    if (!expression.getDependencies(Tessaly::EntityKind::Table).empty())
+        refuse(expression, "reads a table, which CalculateValue does not provide.");
+    std::map<std::string, double> environment;
+    Prim::PrimEnvironmentUtils::registerValuesInEnvironment2(environment, *this);
+    Prim::PrimEnvironmentUtils::registerValuesInEnvironment(environment, *this);
+    std::vector<double> values;
+    Prim::PrimEnvironmentUtils::flattenValueEnvironment(values, environment, expression.getRoot(),
+                                                        expression.getDictionary());
+    const std::vector<double> none;
+    const std::vector<const Tessaly::LookupTable*> noTables;
+    const std::vector<const Tessaly::Image*> noImages;
+    const double value = expression.evaluate({none, values, noTables, noImages, 0, 0});
+    if (std::isnan(value))
+        refuse(expression, "gives no value (null).");
+    if (std::isinf(value))
+        refuse(expression, "gives an infinite value.");
+    return value;
+}
+
+} // namespace Calc
