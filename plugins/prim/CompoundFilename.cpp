@@ -109,8 +109,10 @@ void CompoundFilename::updateFilenamesIfNecessary(const Workdir& workdir)
         relativeFilename_ = relativeTo(*workdir);
     } else if (workdir && workdir->empty() && !fullFilename_.empty()) {
         relativeFilename_.clear();
-    } else if (!relativeFilename_.empty()) {
-        // Only a relative form can tell where the file is for this work directory.
+    } else if (!relativeFilename_.empty() && !(workdir && workdir->empty())) {
+        // Only a relative form can tell where the file is for this work directory. While
+        // the work directory is expected but unknown there is nothing to join it to, and
+        // the relative form must survive until it arrives.
         if (relativeFilename_.is_absolute()) {
             fullFilename_ = relativeFilename_;
         } else {

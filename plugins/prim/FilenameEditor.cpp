@@ -5,6 +5,7 @@
 #include "base/error/UndefinedNodeException.h"
 #include "base/graph/Functor.h"
 #include "base/graph/InputPort.h"
+#include "base/graph/WorkdirBinding.h"
 #include "base/log/Logger.h"
 #include "base/run/LightRunner.h"
 #include "plugins/prim/DataCast.h"
@@ -54,7 +55,24 @@ void FilenameEditor::setFilename(std::string filename, bool delay)
     if (filename.empty())
         VRK::ExceptionUtils::raise<VRK::IllegalDataException>("The " + getAlias() + " \"" + filename
                                                               + "\" is not valid.");
-    filename_.setFilename(PathEditor::normalisePath(filename), delay ? Workdir() : workdir_, delay);
+    const path normalised = PathEditor::normalisePath(filename);
+    givenComplete_ = normalised.is_absolute();
+    // A relative name read inside a work directory that is not known yet means a file
+    // of that directory, not of the folder the script was read from.
+    if (delay)
+        filename_.setFilename(normalised, Workdir(), true);
+    else if (awaitsWorkdir())
+        filename_.setFilename(normalised, Workdir(path()), true);
+    else
+        filename_.setFilename(normalised, workdir_, false);
+}
+
+bool FilenameEditor::awaitsWorkdir() const
+{
+    const VRK::Functor* owner = getOwner();
+    VRK::InputPort* workdirPort = owner ? owner->getInputPort("workdir") : nullptr;
+    return !workdir_ && workdirPort
+           && (workdirPort->isBound() || VRK::WorkdirBinding::findImplicitPeer(*workdirPort));
 }
 
 std::string FilenameEditor::getFilename() const
@@ -79,10 +97,10 @@ std::string FilenameEditor::getWorkdir() const
     return workdir_->string();
 }
 
-bool FilenameEditor::updateWorkdir()
+bool FilenameEditor::updateWorkdir(bool lightRun)
 {
     try {
-        findWorkdir();
+        findWorkdir(lightRun);
         return true;
     } catch (const VRK::Exception& exception) {
         VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
@@ -99,7 +117,7 @@ bool FilenameEditor::updateWorkdir()
 
 // No owner, or an owner without a "workdir" input (a Workdir's own folder, a folder
 // carrier), means that no work directory applies.
-void FilenameEditor::findWorkdir()
+void FilenameEditor::findWorkdir(bool lightRun)
 {
     VRK::Functor* owner = getOwner();
     VRK::InputPort* workdirPort = owner ? owner->getInputPort("workdir") : nullptr;
@@ -107,7 +125,12 @@ void FilenameEditor::findWorkdir()
         workdir_ = boost::none;
         return;
     }
-    runWorkdirFunctor(workdirPort);
+    if (lightRun)
+        runWorkdirFunctor(workdirPort);
+    else if (workdirPort->getPeer()->hasData())
+        workdirPort->pullData();
+    else
+        workdirPort->resetData();
     if (!workdirPort->hasData()) {
         workdir_ = path();
         return;

@@ -40,8 +40,11 @@ public:
     virtual bool isExtensionAccepted(const std::string& extension) const;
 
     // `delay`: the script is being read, so the work directory is not known yet and a
-    // relative filename is kept to be resolved at the next update.
+    // relative filename is kept to be resolved at the next update. A relative filename
+    // whose owner sits inside a work directory that is not known yet is kept so too.
     void setFilename(std::string filename, bool delay);
+    // Whether the filename was last set as a complete path, which writers keep as it is.
+    bool isGivenComplete() const { return givenComplete_; }
 
     // The filename as a script writes it: the relative form, or else the full one.
     std::string getFilename() const;
@@ -57,19 +60,22 @@ public:
     const Workdir& getWorkdirPath() const { return workdir_; }
 
     // Looks up the work directory through the owner's "workdir" input; false, leaving
-    // the previous one, when that failed (the failure is logged, never thrown).
-    bool updateWorkdir();
+    // the previous one, when that failed (the failure is logged, never thrown). Without
+    // `lightRun`, a work directory that has not been produced yet counts as unknown.
+    bool updateWorkdir(bool lightRun = true);
 
 protected:
     FilenameEditor(const std::string& name, const std::string& description,
                    const std::shared_ptr<VRK::BaseType>& type);
 
 private:
-    void findWorkdir();
+    void findWorkdir(bool lightRun);
+    bool awaitsWorkdir() const;
     static void runWorkdirFunctor(VRK::InputPort* workdirPort);
 
     CompoundFilename filename_;
     Workdir workdir_;
+    bool givenComplete_ = false;
 };
 
 } // namespace Prim

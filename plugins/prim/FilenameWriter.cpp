@@ -21,10 +21,12 @@ FilenameWriter::~FilenameWriter() = default;
 
 std::ostream& FilenameWriter::write(std::ostream& out, int) const
 {
-    // Outside any work directory a filename has no relative form of its own; it is
-    // printed relative to the folder the script is written to, so that a script keeps
-    // naming the same files wherever it is moved together with them.
-    std::string text = editor_->getRelativeFilename();
+    // A complete name stays as the modeller wrote it. Outside any work directory a
+    // relative filename has no relative form of its own; it is printed relative to the
+    // folder the script is written to, so that a script keeps naming the same files
+    // wherever it is moved together with them.
+    std::string text =
+        editor_->isGivenComplete() ? editor_->getFullFilename() : editor_->getRelativeFilename();
     if (text.empty())
         text = VRK::Boost::PathUtils::getRelativePath(editor_->getFullFilename()).string();
     return out << '"' << PathEditor::denormalisePath(text) << '"';

@@ -12,8 +12,10 @@ PathWriter::PathWriter(const VRK::DataEditor* dataEditor)
 
 std::ostream& PathWriter::write(std::ostream& out, int) const
 {
-    return out << '"' << PathEditor::denormalisePath(editor_->getRelativePath().generic_string())
-               << '"';
+    // A complete path stays as the modeller wrote it, wherever the script is written.
+    const PathEditor::path& value = editor_->getPath();
+    const PathEditor::path written = value.is_absolute() ? value : editor_->getRelativePath();
+    return out << '"' << PathEditor::denormalisePath(written.generic_string()) << '"';
 }
 
 } // namespace Prim

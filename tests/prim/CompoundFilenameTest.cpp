@@ -73,6 +73,12 @@ TEST_F(CompoundFilenameTest, AnEmptyWorkdirKeepsOnlyTheRelativeForm)
     EXPECT_EQ(filename.getFilename(), "result.csv");
     EXPECT_EQ(filename.getExtension(), ".csv");
 
+    // Updates while the work directory is still unknown keep the name for when it comes.
+    for (int update = 0; update < 3; ++update)
+        filename.updateFilenamesIfNecessary(Workdir(fs::path()));
+    EXPECT_TRUE(filename.getFullFilename().empty());
+    EXPECT_EQ(filename.getRelativeFilename(), "out/result.csv");
+
     EXPECT_EQ(filename.getFullFilename(Workdir(root_ / "work")), root_ / "work/out/result.csv");
 
     // A work directory that becomes unknown drops the relative form, keeping the file.

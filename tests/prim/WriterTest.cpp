@@ -261,8 +261,8 @@ TEST(FilenameWriterTest, CopiesWriteTheirOwnEditor)
     FolderEditor first;
     FolderEditor second;
     VRK::DirectoryStack inData("/data");
-    first.setFilename("/data/one", false);
-    second.setFilename("/elsewhere/two", false);
+    first.setFilename("one", false);
+    second.setFilename("../elsewhere/two", false);
     FilenameWriter writer(&first);
     const FilenameWriter copy(writer);
     writer = FilenameWriter(&second);
@@ -270,6 +270,19 @@ TEST(FilenameWriterTest, CopiesWriteTheirOwnEditor)
     copy.write(out, 0);
     writer.write(out << ' ', 0);
     EXPECT_EQ(out.str(), "\"one\" \"../elsewhere/two\"");
+}
+
+TEST(FilenameWriterTest, CompleteNamesStayAsWritten)
+{
+    VRK::DirectoryStack elsewhere("/data/scripts");
+    FolderEditor folder;
+    folder.setFilename("/etc", false);
+    PathEditor path;
+    path.setPath("/etc/hosts");
+    std::ostringstream out;
+    FilenameWriter(&folder).write(out, 0);
+    PathWriter(&path).write(out << ' ', 0);
+    EXPECT_EQ(out.str(), "\"/etc\" \"/etc/hosts\"");
 }
 
 } // namespace

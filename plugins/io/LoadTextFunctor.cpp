@@ -1,0 +1,44 @@
+#include "plugins/io/LoadTextFunctor.h"
+
+#include "base/error/ExceptionUtils.h"
+#include "base/error/UnableToAccessFileException.h"
+#include "plugins/io/TextFileEditor.h"
+#include "plugins/io/TextFileUtils.h"
+#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
+#include "plugins/prim/StringData.h"
+#include "plugins/prim/StringType.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace Io {
+
+LoadText::LoadText()
+    : Prim::FilenamedFunctor(
+        "LoadText", "Read a text file into a string.", "filename", "workdir",
+        [](VRK::Functor* functor, const std::string& filename, const std::string& digits,
+           const std::string& step) {
+            Prim::FilenamedFunctorVerifierAdapter::canReadFile(TextFileEditor::getExtensions(),
+                                                               functor, filename, digits, step);
+        },
+        "suffixDigits", "step", nullptr)
+{
+    TextFileUtils::addFilePorts(*this, "Text file to read.");
+    addOutputPort("text", "Text of the file.", Prim::StringType::getInstance());
+}
+
+LoadText::~LoadText() = default;
+
+void LoadText::runImpl()
+{
+    const boost::filesystem::path file = TextFileUtils::getFile(*this);
+    Prim::FilenamedFunctorVerifierAdapter::requireReadable(file);
+    std::ifstream in(file.string(), std::ios::binary);
+    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad())
+        VRK::ExceptionUtils::raise<VRK::UnableToAccessFileException>(
+            "The file \"" + file.string() + "\" can not be read.");
+    setOutputPortValue<Prim::StringData>("text", text);
+}
+
+} // namespace Io

@@ -1,0 +1,20 @@
+#ifndef VRK_PLUGINS_IO_TEXTFILEREADER_H
+#define VRK_PLUGINS_IO_TEXTFILEREADER_H
+
+#include "plugins/prim/FilenameReader.h"
+
+namespace Io {
+
+// Reads the name of a text file between double quotes.
+template <class ScannerT>
+class TextFileReader : public Prim::FilenameReader<ScannerT> {
+public:
+    explicit TextFileReader(VRK::DataEditor* dataEditor);
+};
+
+extern template class TextFileReader<VRK::ScriptScanner>;
+extern template class TextFileReader<VRK::PlainScanner>;
+
+} // namespace Io
+
+#endif
