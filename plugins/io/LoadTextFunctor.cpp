@@ -2,7 +2,6 @@
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/UnableToAccessFileException.h"
-#include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 #include "plugins/prim/StringData.h"
@@ -16,11 +15,7 @@ namespace Io {
 LoadText::LoadText()
     : Prim::FilenamedFunctor(
         "LoadText", "Read a text file into a string.", "filename", "workdir",
-        [](VRK::Functor* functor, const std::string& filename, const std::string& digits,
-           const std::string& step) {
-            Prim::FilenamedFunctorVerifierAdapter::canReadFile(TextFileEditor::getExtensions(),
-                                                               functor, filename, digits, step);
-        },
+        TextFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile),
         "suffixDigits", "step", nullptr)
 {
     TextFileUtils::addFilePorts(*this, "Text file to read.");

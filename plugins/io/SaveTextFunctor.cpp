@@ -2,7 +2,6 @@
 
 #include "base/script/AtomicFileWriter.h"
 #include "base/task/Task.h"
-#include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 #include "plugins/prim/StringData.h"
@@ -34,11 +33,7 @@ void writeInSlices(std::ostream& out, const std::string& text)
 SaveText::SaveText()
     : Prim::FilenamedFunctor(
         "SaveText", "Write a string to a text file.", "filename", "workdir",
-        [](VRK::Functor* functor, const std::string& filename, const std::string& digits,
-           const std::string& step) {
-            Prim::FilenamedFunctorVerifierAdapter::canWriteFile(TextFileEditor::getExtensions(),
-                                                                functor, filename, digits, step);
-        },
+        TextFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canWriteFile),
         "suffixDigits", "step", nullptr)
 {
     addInputPort("text", "Text to write.", Prim::StringType::getInstance(), false);

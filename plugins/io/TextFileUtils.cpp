@@ -1,6 +1,7 @@
 #include "plugins/io/TextFileUtils.h"
 
 #include "plugins/io/TextFileData.h"
+#include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileType.h"
 #include "plugins/prim/NonNegativeIntType.h"
 #include "plugins/prim/WorkdirType.h"
@@ -8,6 +9,14 @@
 #include <boost/filesystem/operations.hpp>
 
 namespace Io {
+
+Prim::FilenamedFunctor::Verifier TextFileUtils::verifierOf(Check check)
+{
+    return [check](VRK::Functor* functor, const std::string& filename, const std::string& digits,
+                   const std::string& step) {
+        check(TextFileEditor::getExtensions(), functor, filename, digits, step);
+    };
+}
 
 void TextFileUtils::addFilePorts(VRK::Functor& functor, const std::string& filenameDescription)
 {

@@ -5,6 +5,9 @@
 
 #include <boost/filesystem/path.hpp>
 
+#include <set>
+#include <string>
+
 namespace Io {
 
 // What the functors that save and load text files share: their file ports and the file
@@ -12,6 +15,11 @@ namespace Io {
 class TextFileUtils {
 public:
     // "filename", "suffixDigits", "step" and "workdir", in this order.
+    // The verifier of a text-file functor: `check` (a check of the verifier adapter)
+    // with the extensions of text files.
+    using Check = void (*)(const std::set<std::string>&, VRK::Functor*, const std::string&,
+                           const std::string&, const std::string&);
+    static Prim::FilenamedFunctor::Verifier verifierOf(Check check);
     static void addFilePorts(VRK::Functor& functor, const std::string& filenameDescription);
     // The complete path of the file of this pass: numbered by the step when one is bound
     // and digits are asked for, inside the work directory when there is one.

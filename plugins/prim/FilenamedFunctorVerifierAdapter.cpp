@@ -66,17 +66,7 @@ void FilenamedFunctorVerifierAdapter::canReadFile(const std::set<std::string>& e
                                                   const std::string& suffixDigitsPort,
                                                   const std::string& stepPort)
 {
-    FilenameEditor* editor = preparedEditor(functor, filenamePort);
-    if (!editor)
-        return;
-    requireSupported(extensions, *editor);
-    const path file = editor->getFullFilename();
-    if (file.empty())
-        return;
-    if (followsStep(*functor, suffixDigitsPort, stepPort))
-        requireFolder(file);
-    else
-        requireReadable(file);
+    checkFile(extensions, functor, filenamePort, suffixDigitsPort, stepPort, &requireReadable);
 }
 
 void FilenamedFunctorVerifierAdapter::canWriteFile(const std::set<std::string>& extensions,
@@ -84,6 +74,18 @@ void FilenamedFunctorVerifierAdapter::canWriteFile(const std::set<std::string>& 
                                                    const std::string& filenamePort,
                                                    const std::string& suffixDigitsPort,
                                                    const std::string& stepPort)
+{
+    checkFile(extensions, functor, filenamePort, suffixDigitsPort, stepPort, &requireWritable);
+}
+
+// A name that follows the step names files that do not exist yet: only their folder is
+// known before the run.
+void FilenamedFunctorVerifierAdapter::checkFile(const std::set<std::string>& extensions,
+                                                VRK::Functor* functor,
+                                                const std::string& filenamePort,
+                                                const std::string& suffixDigitsPort,
+                                                const std::string& stepPort,
+                                                void (*checkWholeName)(const path&))
 {
     FilenameEditor* editor = preparedEditor(functor, filenamePort);
     if (!editor)
@@ -95,7 +97,7 @@ void FilenamedFunctorVerifierAdapter::canWriteFile(const std::set<std::string>& 
     if (followsStep(*functor, suffixDigitsPort, stepPort))
         requireFolder(file);
     else
-        requireWritable(file);
+        checkWholeName(file);
 }
 
 void FilenamedFunctorVerifierAdapter::requireFolder(const path& file)

@@ -33,6 +33,11 @@ public:
     static void requireFolder(const path& file);
     static void requireReadable(const path& file);
     static void requireWritable(const path& file);
+
+private:
+    static void checkFile(const std::set<std::string>& extensions, VRK::Functor* functor,
+                          const std::string& filenamePort, const std::string& suffixDigitsPort,
+                          const std::string& stepPort, void (*checkWholeName)(const path&));
 };
 
 } // namespace Prim
