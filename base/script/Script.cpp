@@ -9,8 +9,9 @@
 #include "base/run/LightFunctorScheduler.h"
 #include "base/run/LightRunGuard.h"
 #include "base/run/RunContext.h"
-#include "base/task/ProcessorManager.h"
 #include "base/script/ScriptVerifier.h"
+#include "base/task/ProcessorManager.h"
+#include "base/task/StackExtender.h"
 #include "base/task/Task.h"
 
 #include <algorithm>
@@ -63,6 +64,22 @@ std::vector<const InputPort*> pulledInputs(const Functor& functor)
     return inputs;
 }
 
+// How deep containers nest in `container`: 1 when its functors hold none.
+size_t nestingDepth(const FunctorContainer& container)
+{
+    size_t deepest = 0;
+    FunctorWalk::walk(
+        container, [&](Functor&, size_t depth) { deepest = std::max(deepest, depth); },
+        [](ContainerFunctor&, size_t) {});
+    return deepest;
+}
+
+// Running a container runs its contents within its own run, a few frames of the machine
+// stack a level: nesting deeper than a thread's stack holds runs on a stack of its own,
+// reserved in proportion to the depth.
+const size_t DeepNesting = 512;
+const size_t StackBytesPerLevel = 16 * 1024;
+
 } // namespace
 
 Script::Script() = default;
@@ -77,7 +94,12 @@ void Script::run(Task& task, const FunctorScheduler& scheduler)
     emptyPorts(*this);
     for (const auto& functor : getFunctors())
         functor->prepare();
-    runTopLevel(task, scheduler);
+    const size_t depth = nestingDepth(*this);
+    if (depth < DeepNesting)
+        runTopLevel(task, scheduler);
+    else
+        StackExtender::run((depth + DeepNesting) * StackBytesPerLevel,
+                           [&] { runTopLevel(task, scheduler); });
 }
 
 void Script::run(Task& task, const std::string& schedulerName)
