@@ -19,6 +19,9 @@
 #include "plugins/prim/BoolEditor.h"
 #include "plugins/prim/BoolFunctor.h"
 #include "plugins/prim/BoolReader.h"
+#include "plugins/prim/BoolToDoubleDataConverter.h"
+#include "plugins/prim/BoolToIntDataConverter.h"
+#include "plugins/prim/BoolToNonNegativeIntDataConverter.h"
 #include "plugins/prim/BoolWriter.h"
 #include "plugins/prim/CreateStringFunctor.h"
 #include "plugins/prim/DoWhileFunctor.h"
@@ -26,6 +29,10 @@
 #include "plugins/prim/DoubleEditor.h"
 #include "plugins/prim/DoubleFunctor.h"
 #include "plugins/prim/DoubleReader.h"
+#include "plugins/prim/DoubleToBoolDataConverter.h"
+#include "plugins/prim/DoubleToIntDataConverter.h"
+#include "plugins/prim/DoubleToNonNegativeIntDataConverter.h"
+#include "plugins/prim/DoubleToPositiveIntDataConverter.h"
 #include "plugins/prim/DoubleWriter.h"
 #include "plugins/prim/ExitFunctor.h"
 #include "plugins/prim/FolderData.h"
@@ -33,6 +40,7 @@
 #include "plugins/prim/FolderFunctor.h"
 #include "plugins/prim/FolderJunctionFunctor.h"
 #include "plugins/prim/FolderReader.h"
+#include "plugins/prim/FolderToStringDataConverter.h"
 #include "plugins/prim/FolderWriter.h"
 #include "plugins/prim/ForFunctor.h"
 #include "plugins/prim/GroupFunctor.h"
@@ -58,6 +66,7 @@
 #include "plugins/prim/LogTagFunctor.h"
 #include "plugins/prim/LogTagReader.h"
 #include "plugins/prim/LogTagWriter.h"
+#include "plugins/prim/LookupTableToIntSetDataConverter.h"
 #include "plugins/prim/MuxValueFunctor.h"
 #include "plugins/prim/NameData.h"
 #include "plugins/prim/NameEditor.h"
@@ -103,6 +112,7 @@
 #include "plugins/prim/StringFunctor.h"
 #include "plugins/prim/StringJunctionFunctor.h"
 #include "plugins/prim/StringReader.h"
+#include "plugins/prim/StringToFolderDataConverter.h"
 #include "plugins/prim/StringWriter.h"
 #include "plugins/prim/ValueJunctionFunctor.h"
 #include "plugins/prim/WhileFunctor.h"
@@ -269,7 +279,24 @@ void registerDataWriters(PrimRegistrar& registrar)
     registrar.registerDataWriter<StringWriter>("String", algebra);
 }
 
-void registerDataConverters(PrimRegistrar&) {}
+void registerDataConverters(PrimRegistrar& registrar)
+{
+    const std::string algebra = "Map Algebra (Suppl.)";
+    registrar.registerDataConverter<BoolToDoubleDataConverter>(algebra, "Bool", "Double");
+    registrar.registerDataConverter<BoolToIntDataConverter>(algebra, "Bool", "Int");
+    registrar.registerDataConverter<BoolToNonNegativeIntDataConverter>(algebra, "Bool",
+                                                                       "NonNegativeInt");
+    registrar.registerDataConverter<DoubleToBoolDataConverter>(algebra, "Double", "Bool");
+    registrar.registerDataConverter<DoubleToIntDataConverter>(algebra, "Double", "Int");
+    registrar.registerDataConverter<DoubleToNonNegativeIntDataConverter>(algebra, "Double",
+                                                                         "NonNegativeInt");
+    registrar.registerDataConverter<DoubleToPositiveIntDataConverter>(algebra, "Double",
+                                                                      "PositiveInt");
+    registrar.registerDataConverter<LookupTableToIntSetDataConverter>(algebra, "LookupTable",
+                                                                      "IntSet");
+    registrar.registerDataConverter<FolderToStringDataConverter>(algebra, "Folder", "String");
+    registrar.registerDataConverter<StringToFolderDataConverter>(algebra, "String", "Folder");
+}
 
 } // namespace
 
