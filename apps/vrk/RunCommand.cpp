@@ -65,7 +65,11 @@ void reportRunError(const VRK::Script& script, const std::exception& error,
     const auto* hostError = dynamic_cast<const VRK::Exception*>(&error);
     const std::string message = hostError ? hostError->getMessage() : std::string(error.what());
     if (const VRK::Functor* failed = script.getFailedFunctor()) {
-        VRK::ScriptPosition position = failed->getPosition();
+        // An error that knows its place (a binding whose data could not be converted)
+        // is shown there rather than at the functor.
+        VRK::ScriptPosition position = hostError && hostError->hasScriptPosition()
+                                           ? hostError->getScriptPosition()
+                                           : failed->getPosition();
         if (!position.isKnown())
             position = VRK::ScriptPosition{script.getFilename(), 0, 0};
         diagnostics.print("The run of " + VRK::FunctorNameUtils::describe(*failed)

@@ -25,11 +25,15 @@ bool TypeCompatibility::isCompatible(const std::shared_ptr<BaseType>& source,
 std::shared_ptr<DataConverter> TypeCompatibility::findConverter(
     const std::shared_ptr<BaseType>& source, const std::shared_ptr<BaseType>& target)
 {
+    // Data of a type is data of its ancestors too, so their converters serve it: an Int
+    // goes into a Bool port as the Double it also is. The nearest ancestor's wins.
     auto factory = FactoryFarmManager::Instance().getDataConverterFactory();
-    const DataConverterName name(source->getName(), target->getName());
-    if (!factory->isRegistered(name))
-        return nullptr;
-    return factory->create(name);
+    for (auto type = source; type; type = type->getParent()) {
+        const DataConverterName name(type->getName(), target->getName());
+        if (factory->isRegistered(name))
+            return factory->create(name);
+    }
+    return nullptr;
 }
 
 std::shared_ptr<const BaseData> TypeCompatibility::adapt(

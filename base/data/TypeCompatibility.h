@@ -17,7 +17,8 @@ public:
     static bool isCompatible(const std::shared_ptr<BaseType>& source,
                              const std::shared_ptr<BaseType>& target);
 
-    // The converter from source to target, if one is registered.
+    // The converter from source, or else from its nearest ancestor that has one, to
+    // target; none when no converter is registered.
     static std::shared_ptr<DataConverter> findConverter(const std::shared_ptr<BaseType>& source,
                                                         const std::shared_ptr<BaseType>& target);
 

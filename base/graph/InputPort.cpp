@@ -1,5 +1,10 @@
 #include "base/graph/InputPort.h"
 
+#include "base/error/DataException.h"
+#include "base/error/ExceptionUtils.h"
+#include "base/graph/Functor.h"
+#include "base/graph/FunctorNameUtils.h"
+#include "base/graph/PortScope.h"
 #include "base/plugin/FactoryFarmManager.h"
 
 namespace VRK {
@@ -36,10 +41,29 @@ void InputPort::setDataEditor(const std::shared_ptr<DataEditor>& editor)
 void InputPort::pullData()
 {
     if (isBound()) {
-        SinglePeerDataHolder::pullData();
+        pullFromPeer();
     } else if (editor_) {
         editor_->packData();
         setDataPtr(editor_->getDataPtr());
+    }
+}
+
+// Only a conversion can fail here; the modeller has to learn which binding it was.
+void InputPort::pullFromPeer()
+{
+    try {
+        SinglePeerDataHolder::pullData();
+    } catch (const Exception& error) {
+        const DataHolder& peer = *getPeer();
+        if (!getOwner() || !peer.getOwner())
+            throw;
+        ExceptionUtils::raiseAt<DataException>(
+            position_.isKnown() ? position_ : getOwner()->getPosition(),
+            std::string(PortScope::isInternalInput(*this) ? "The internal input " : "The input ")
+                + FunctorNameUtils::quote(getName()) + " of "
+                + FunctorNameUtils::describe(*getOwner()) + " cannot take the data of the output "
+                + FunctorNameUtils::quote(peer.getName()) + " of "
+                + FunctorNameUtils::describe(*peer.getOwner()) + ": " + error.getMessage());
     }
 }
 

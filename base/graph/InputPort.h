@@ -46,6 +46,8 @@ public:
     void setOwner(Functor* owner) override;
 
 private:
+    void pullFromPeer();
+
     std::shared_ptr<DataEditor> editor_;
     bool linked_;
     bool optional_ = false;
