@@ -101,6 +101,7 @@
 #include "plugins/prim/PrimTypes.h"
 #include "plugins/prim/ProcessorPolicyFunctor.h"
 #include "plugins/prim/RepeatFunctor.h"
+#include "plugins/prim/RunExternalProcessFunctor.h"
 #include "plugins/prim/SelectFolderFunctor.h"
 #include "plugins/prim/SelectPathFunctor.h"
 #include "plugins/prim/SelectStringFunctor.h"
@@ -175,6 +176,7 @@ void registerFunctors(PrimRegistrar& registrar)
     registrar.registerFunctor<PositiveInt>("PositiveInt", "Map Algebra (Suppl.)");
     registrar.registerFunctor<ProcessorPolicy>("ProcessorPolicy", "Control");
     registrar.registerFunctor<Repeat>("Repeat", "Control");
+    registrar.registerFunctor<RunExternalProcess>("RunExternalProcess", "Control");
     registrar.registerFunctor<SelectFolder>("SelectFolder", "Stack");
     registrar.registerFunctor<SelectPath>("SelectPath", "Stack");
     registrar.registerFunctor<SelectString>("SelectString", "Stack");

@@ -1,0 +1,103 @@
+#include "plugins/prim/RunExternalProcessFunctor.h"
+
+#include "base/task/SystemProcess.h"
+#include "base/task/Task.h"
+#include "plugins/prim/BoolEditor.h"
+#include "plugins/prim/BoolType.h"
+#include "plugins/prim/IntEditor.h"
+#include "plugins/prim/IntType.h"
+#include "plugins/prim/StringData.h"
+#include "plugins/prim/StringType.h"
+
+#include <cassert>
+
+namespace Prim {
+
+namespace {
+
+// Waits go in slices of this length, so that a cancelled run is noticed within one.
+const unsigned int SliceMilliseconds = 1000;
+
+void setProcessControl(VRK::Functor& functor, const std::string& port)
+{
+    functor.getInputPort(port)->setFlag(VRK::DataHolderFlags::ProcessControl, true);
+}
+
+} // namespace
+
+RunExternalProcess::RunExternalProcess()
+    : Functor("RunExternalProcess", "Run an external process.", nullptr)
+{
+    addInputPort("fileName", "Name of executable file.", StringType::getInstance(), false);
+    addInputPort("parameters", "Parameters to be passed to executable file.",
+                 StringType::getInstance(), false);
+    auto* waitProcessCompletion = dynamic_cast<BoolEditor*>(
+        addOptionalInputPort("waitProcessCompletion",
+                             "If true, wait external process to finish execution.",
+                             BoolType::getInstance(), false, 0)
+            .get());
+    assert(waitProcessCompletion != 0 && "waitProcessCompletion != 0");
+    waitProcessCompletion->setBool(true);
+    auto* secondsToWait = dynamic_cast<IntEditor*>(
+        addOptionalInputPort("secondsToWait",
+                             "Time in seconds to wait external process. Zero means wait process "
+                             "to finish execution.",
+                             IntType::getInstance(), false, 0)
+            .get());
+    assert(secondsToWait != 0 && "secondsToWait != 0");
+    secondsToWait->setInt(0);
+    setProcessControl(*this, "waitProcessCompletion");
+    setProcessControl(*this, "secondsToWait");
+}
+
+RunExternalProcess::~RunExternalProcess() = default;
+
+void RunExternalProcess::runImpl()
+{
+    const std::string fileName = getInputPortValue<StringData>("fileName");
+    const std::string parameters = getInputPortValue<StringData>("parameters");
+    const bool wait = getInputPortValue<BoolData>("waitProcessCompletion");
+    const int seconds = getInputPortValue<IntData>("secondsToWait");
+    VRK::SystemProcess process(fileName, parameters);
+    if (process.getStatus() == VRK::SystemProcess::finished)
+        return;
+    VRK::Task* functorTask = VRK::Task::getCurrentTask();
+    assert(functorTask != 0 && "functorTask != 0");
+    VRK::TaskWorker* worker = functorTask->getWorker();
+    assert(worker != 0 && "worker != 0");
+    if (!wait)
+        process.detach(worker);
+    else if (seconds == 0)
+        waitForCompletion(process, *functorTask);
+    else if (seconds > 0)
+        waitSeconds(process, seconds, *functorTask);
+    // A negative time waits for nothing: the process ends with its object, as every
+    // process that was not handed over does.
+}
+
+void RunExternalProcess::waitForCompletion(VRK::SystemProcess& process, const VRK::Task& task)
+{
+    try {
+        while (process.wait(SliceMilliseconds))
+            task.checkCancellation();
+    } catch (...) {
+        process.kill();
+        throw;
+    }
+}
+
+void RunExternalProcess::waitSeconds(VRK::SystemProcess& process, int seconds, VRK::Task& task)
+{
+    try {
+        for (int second = 0; second < seconds; ++second) {
+            process.wait(SliceMilliseconds);
+            task.checkCancellation();
+        }
+    } catch (...) {
+        process.kill();
+        throw;
+    }
+    process.detach(task.getWorker());
+}
+
+} // namespace Prim

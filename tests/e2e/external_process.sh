@@ -1,0 +1,162 @@
+#!/usr/bin/env bash
+# RunExternalProcess through vrk: a waited-for process ends before the run goes on; a
+# time to wait returns with the process still running; not waiting returns at once;
+# SIGINT during a wait, or with a detached process, ends the run with status 130 within
+# two seconds and takes the process down; the parameters never reach a shell.
+set -u
+vrk="$1"
+work=$(mktemp -d)
+leftover=""
+cleanup() {
+    [ -n "$leftover" ] && kill -KILL $leftover 2>/dev/null
+    rm -rf "$work"
+}
+trap cleanup EXIT
+cd "$work" || exit 1
+failed=0
+fail() {
+    echo "FAIL $*"
+    failed=1
+}
+
+# Milliseconds since the epoch.
+now() { date +%s%3N; }
+
+# Waits up to five seconds for the file $1 to hold a pid, and prints it; nothing when
+# none came.
+pid_from() {
+    local tries=0
+    while ! grep -qx '[0-9][0-9]*' "$1" 2>/dev/null && [ "$tries" -lt 50 ]; do
+        sleep 0.1
+        tries=$((tries + 1))
+    done
+    grep -x '[0-9][0-9]*' "$1" 2>/dev/null
+}
+
+# Whether process $1 is alive and not a zombie.
+alive() {
+    [ -n "$1" ] || return 1
+    local state
+    state=$(ps -o stat= -p "$1" 2>/dev/null) || return 1
+    [[ "$state" != Z* ]]
+}
+
+# A program that notes its pid in the file $1, then sleeps for $2 seconds.
+sleeper() { echo "fileName = \"sh\" parameters = \"-c 'echo \$\$ > $1; exec sleep $2'\""; }
+
+# 1. Waited for: each process has ended before the next pass and the next functor.
+cat > wait.vrk <<'SCRIPT'
+loop := For firstIterationStep = 1 lastIterationStep = 2 {
+    RunExternalProcess fileName = "sh" parameters = "-c 'sleep 0.5; echo ran >> marker'";
+}
+PrintString string = "after the process";
+SCRIPT
+start=$(now)
+out=$("$vrk" run wait.vrk --log-level .result --scheduler sequential)
+status=$?
+elapsed=$(($(now) - start))
+[ "$status" -eq 0 ] || fail "wait: exit status $status"
+[ "$out" = "after the process" ] || fail "wait: printed '$out'"
+[ "$(cat marker 2>/dev/null)" = $'ran\nran' ] || fail "wait: the processes did not both run"
+[ "$elapsed" -ge 1000 ] || fail "wait: returned after $elapsed ms, before the processes ended"
+
+# 2. secondsToWait 2 on a process of 30 seconds: back after about 2 seconds, the
+# process still running.
+echo "RunExternalProcess $(sleeper timed.pid 30) secondsToWait = 2;" > timed.vrk
+start=$(now)
+"$vrk" run timed.vrk --log-level .result
+status=$?
+elapsed=$(($(now) - start))
+pid=$(pid_from timed.pid)
+leftover="$pid"
+[ "$status" -eq 0 ] || fail "secondsToWait: exit status $status"
+{ [ "$elapsed" -ge 1900 ] && [ "$elapsed" -lt 4000 ]; } || fail "secondsToWait: returned after $elapsed ms"
+alive "$pid" || fail "secondsToWait: the process did not keep running"
+kill -KILL "$pid" 2>/dev/null
+
+# 3. waitProcessCompletion .no: back at once, the process still running.
+echo "RunExternalProcess $(sleeper detached.pid 30) waitProcessCompletion = .no;" > detached.vrk
+start=$(now)
+"$vrk" run detached.vrk --log-level .result
+status=$?
+elapsed=$(($(now) - start))
+pid=$(pid_from detached.pid)
+leftover="$pid"
+[ "$status" -eq 0 ] || fail "no waiting: exit status $status"
+[ "$elapsed" -lt 1000 ] || fail "no waiting: returned after $elapsed ms"
+alive "$pid" || fail "no waiting: the process did not keep running"
+kill -KILL "$pid" 2>/dev/null
+
+# A negative time waits for nothing.
+echo 'RunExternalProcess fileName = "sleep" parameters = "30" secondsToWait = -1;' > negative.vrk
+start=$(now)
+"$vrk" run negative.vrk --log-level .result
+status=$?
+elapsed=$(($(now) - start))
+[ "$status" -eq 0 ] || fail "negative time: exit status $status"
+[ "$elapsed" -lt 1000 ] || fail "negative time: returned after $elapsed ms"
+
+# 4. SIGINT while waiting, and SIGINT while a detached process runs beside a loop:
+# status 130 within two seconds, and the process gone.
+echo "RunExternalProcess $(sleeper waited.pid 30);" > interrupted_wait.vrk
+cat > interrupted_detached.vrk <<SCRIPT
+RunExternalProcess $(sleeper owned.pid 30) waitProcessCompletion = .no;
+forever := While initialCondition = .yes condition = again.condition {
+    again := SetWhileCondition condition = .yes;
+}
+SCRIPT
+for case in interrupted_wait:waited.pid interrupted_detached:owned.pid; do
+    script="${case%%:*}.vrk"
+    pidfile="${case##*:}"
+    for scheduler in sequential parallel; do
+        rm -f "$pidfile"
+        "$vrk" run "$script" --log-level .result --scheduler "$scheduler" &
+        vrk_pid=$!
+        child=$(pid_from "$pidfile")
+        leftover="$child"
+        if [ -z "$child" ]; then
+            fail "$script ($scheduler): the process never started"
+            kill -KILL "$vrk_pid"
+            continue
+        fi
+        kill -INT "$vrk_pid"
+        waited=0
+        while kill -0 "$vrk_pid" 2>/dev/null && [ "$waited" -lt 20 ]; do
+            sleep 0.1
+            waited=$((waited + 1))
+        done
+        if kill -0 "$vrk_pid" 2>/dev/null; then
+            fail "$script ($scheduler): still running two seconds after SIGINT"
+            kill -KILL "$vrk_pid"
+        fi
+        wait "$vrk_pid"
+        status=$?
+        [ "$status" -eq 130 ] || fail "$script ($scheduler): exit status $status, expected 130"
+        ! alive "$child" || fail "$script ($scheduler): process $child outlived the run"
+    done
+done
+
+# 5. Shell metacharacters and quotes are arguments like any other: echo prints them, and
+# nothing else runs.
+cat > literal.vrk <<'SCRIPT'
+RunExternalProcess fileName = "echo" parameters = "a; touch semicolon | touch pipe $(touch subst) `touch tick` && touch and > redirected 'two  words'";
+SCRIPT
+out=$("$vrk" run literal.vrk --log-level .result)
+status=$?
+[ "$status" -eq 0 ] || fail "metacharacters: exit status $status"
+expected='a; touch semicolon | touch pipe $(touch subst) `touch tick` && touch and > redirected two  words'
+[ "$out" = "$expected" ] || fail "metacharacters: printed '$out'"
+for file in semicolon pipe subst tick and redirected; do
+    [ ! -e "$file" ] || fail "metacharacters: \"$file\" was created"
+done
+
+# 6. A program that cannot be started fails the run with status 1.
+echo 'RunExternalProcess fileName = "no-such-program-anywhere" parameters = "";' > missing.vrk
+"$vrk" run missing.vrk --log-level .result 2>missing.err
+status=$?
+[ "$status" -eq 1 ] || fail "missing program: exit status $status"
+grep -q 'The process "no-such-program-anywhere" could not be started' missing.err \
+    || fail "missing program: $(cat missing.err)"
+
+[ "$failed" -eq 0 ] && echo "external processes waited for, left running, cancelled and kept from any shell"
+[ "$failed" -eq 0 ]
