@@ -77,6 +77,7 @@ TEST(DeepNesting, TextReadsVerifiesAndWritesInEveryFormat)
 
 TEST(DeepNesting, XMLReadsAsDeepAsText)
 {
+    VRK::Testing::registerScriptTestKit();
     std::string xml = "<script>" + repeat("<functor name=\"TestWorkdir\">", Depth)
                       + "<functor name=\"TestSink\"><input port=\"value\">2</input></functor>"
                       + repeat("</functor>", Depth) + "</script>";
