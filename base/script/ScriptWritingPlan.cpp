@@ -29,11 +29,11 @@ const Functor* peerOwner(const InputPort& port)
     return port.isBound() ? port.getPeer()->getOwner() : nullptr;
 }
 
-std::string textAtPrecision(const DataWriter& writer, int precision)
+std::string textAtPrecision(const DataWriter& writer, int precision, int indent)
 {
     std::ostringstream text;
     text.precision(precision);
-    writer.write(text, 0);
+    writer.write(text, indent);
     return text.str();
 }
 
@@ -169,7 +169,7 @@ std::string ScriptWritingPlan::getReference(const InputPort& port) const
     return alias + "." + peer->getName();
 }
 
-std::string ScriptWritingPlan::getValueText(const InputPort& port)
+std::string ScriptWritingPlan::getValueText(const InputPort& port, int indent)
 {
     assert(port.hasDataEditor() && "values are written only for ports with an editor");
     auto factory = FactoryFarmManager::Instance().getDataWriterFactory();
@@ -178,10 +178,10 @@ std::string ScriptWritingPlan::getValueText(const InputPort& port)
     // Seventeen significant digits carry any double; fewer often carry it as well. The
     // fewest would write 100 as "1e+02": a few more digits that spare the exponent are
     // easier to read.
-    const std::string exact = textAtPrecision(*writer, 17);
+    const std::string exact = textAtPrecision(*writer, 17, indent);
     std::string shortest;
     for (int precision = 1; precision < 17; ++precision) {
-        const std::string text = textAtPrecision(*writer, precision);
+        const std::string text = textAtPrecision(*writer, precision, indent);
         if (!readsBackAs(text, exact))
             continue;
         if (!isScientific(text))

@@ -50,8 +50,9 @@ public:
     // A typed-in value as the writer of its type prints it. A number is written with the
     // fewest digits that still read back to the same double (0.1 rather than
     // 0.10000000000000001, all seventeen where it takes them), without an exponent
-    // where seventeen digits allow it (100 rather than 1e+02).
-    static std::string getValueText(const InputPort& port);
+    // where seventeen digits allow it (100 rather than 1e+02). A value written over
+    // several lines (a formula) indents them by `indent` levels.
+    static std::string getValueText(const InputPort& port, int indent = 0);
     // The levels of indentation of a line at nesting `depth`: they stop growing at
     // MaxIndentLevels, so that deep nesting does not make the text grow with the square
     // of its depth.

@@ -76,7 +76,7 @@ void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWriti
     if (!alias.empty())
         out << alias << " := ";
     out << functor.getName();
-    writeInputs(functor, plan, out);
+    writeInputs(functor, plan, depth, out);
     auto* container = functor.asContainer();
     if (!container)
         out << ";\n";
@@ -87,13 +87,15 @@ void DefaultScriptWriter::writeFunctor(const Functor& functor, const ScriptWriti
 }
 
 void DefaultScriptWriter::writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
-                                      std::ostream& out)
+                                      size_t depth, std::ostream& out)
 {
+    const int levels = int(ScriptWritingPlan::indentLevels(depth));
     for (const InputPort* port : PortScope::getAllInputs(functor)) {
         if (!plan.isWritten(*port))
             continue;
         out << ' ' << port->getName() << " = "
-            << (port->isBound() ? plan.getReference(*port) : ScriptWritingPlan::getValueText(*port));
+            << (port->isBound() ? plan.getReference(*port)
+                                : ScriptWritingPlan::getValueText(*port, levels));
     }
 }
 

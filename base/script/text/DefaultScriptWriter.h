@@ -45,7 +45,8 @@ private:
     void writeScriptProperties(const Script& script, std::ostream& out) const;
     void writeFunctor(const Functor& functor, const ScriptWritingPlan& plan, size_t depth,
                       std::ostream& out) const;
-    static void writeInputs(const Functor& functor, const ScriptWritingPlan& plan,
+    // A value over several lines lines up with the functor at `depth`.
+    static void writeInputs(const Functor& functor, const ScriptWritingPlan& plan, size_t depth,
                             std::ostream& out);
     std::ostream& indent(std::ostream& out, size_t depth) const;
 
