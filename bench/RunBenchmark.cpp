@@ -6,18 +6,14 @@
 // the costs and ratios, all measured in this one run.
 
 #include "base/graph/Functor.h"
-#include "base/log/LogFilterHigherTags.h"
-#include "base/log/Logger.h"
 #include "base/plugin/FactoryFarmManager.h"
-#include "base/plugin/Plugin.h"
 #include "base/run/AutoFunctorScheduler.h"
 #include "base/run/ParallelFunctorScheduler.h"
 #include "base/run/SequentialFunctorScheduler.h"
-#include "base/script/Script.h"
-#include "base/script/text/DefaultScriptReader.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "bench/RecordingReporter.h"
+#include "bench/ScriptSetup.h"
 #include "plugins/prim/DoubleData.h"
 #include "plugins/prim/DoubleType.h"
 
@@ -96,29 +92,18 @@ std::string branchText(const std::string& alias, int steps)
     return text.str();
 }
 
-std::shared_ptr<VRK::Script> readScript(const std::string& text)
-{
-    auto script = std::make_shared<VRK::Script>();
-    std::istringstream in(text);
-    VRK::DefaultScriptReader().read(script.get(), in, "bench.vrk");
-    return script;
-}
-
 // The scripts, read once, with the log quiet so that loop banners cost nothing.
 struct Scripts {
     Scripts()
     {
-        VRK::Logger::getCurrentThreadLogger()->setMainFilter(
-            std::make_shared<VRK::LogFilterHigherTags>(VRK::error));
-        VRK::Logger::setDefaultFilter(std::make_shared<VRK::LogFilterHigherTags>(VRK::error));
-        VRK::Plugin plugin("Prim", "", VRK::FactoryFarmManager::Instance());
-        registerPrimPlugin(plugin);
+        Bench::quietLog();
+        Bench::registerLinkedPlugin("Prim", &registerPrimPlugin);
         registerBenchWork();
-        loop = readScript(loopText("loop", LoopSteps));
+        loop = Bench::readScript(loopText("loop", LoopSteps));
         std::string wideText;
         for (int i = 0; i < WideLoops; ++i)
             wideText += branchText("branch" + std::to_string(i), WideSteps);
-        wide = readScript(wideText);
+        wide = Bench::readScript(wideText);
     }
     static Scripts& get()
     {
