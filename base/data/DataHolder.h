@@ -7,6 +7,7 @@
 
 #include <bitset>
 #include <memory>
+#include <utility>
 
 namespace VRK {
 
@@ -33,7 +34,8 @@ public:
 
     // Stores `data` itself: data objects are immutable, so holders may share them.
     void setDataPtr(const std::shared_ptr<const BaseData>& data);
-    std::shared_ptr<const BaseData> getDataPtr() const { return data_; }
+    void setDataPtr(std::shared_ptr<const BaseData>&& data) { data_ = std::move(data); }
+    const std::shared_ptr<const BaseData>& getDataPtr() const { return data_; }
 
     void resetData();
     const BaseData& getData() const;

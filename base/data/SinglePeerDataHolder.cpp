@@ -14,7 +14,12 @@ void SinglePeerDataHolder::pullData()
         resetData();
         return;
     }
-    setDataPtr(TypeCompatibility::adapt(peer_->getDataPtr(), peer_->getType(), getType()));
+    // Data pass along every binding at every pass: those that need no converter pass
+    // without copies of their pointer.
+    if (TypeCompatibility::agrees(peer_->getType(), getType()))
+        setDataPtr(peer_->getDataPtr());
+    else
+        setDataPtr(TypeCompatibility::adapt(peer_->getDataPtr(), peer_->getType(), getType()));
 }
 
 } // namespace VRK

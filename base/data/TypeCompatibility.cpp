@@ -9,17 +9,16 @@
 
 namespace VRK {
 
-namespace {
-bool agree(const std::shared_ptr<BaseType>& source, const std::shared_ptr<BaseType>& target)
+bool TypeCompatibility::agrees(const std::shared_ptr<BaseType>& source,
+                               const std::shared_ptr<BaseType>& target)
 {
     return !source || !target || source->isKindOf(target);
 }
-} // namespace
 
 bool TypeCompatibility::isCompatible(const std::shared_ptr<BaseType>& source,
                                      const std::shared_ptr<BaseType>& target)
 {
-    return agree(source, target) || findConverter(source, target) != nullptr;
+    return agrees(source, target) || findConverter(source, target) != nullptr;
 }
 
 std::shared_ptr<DataConverter> TypeCompatibility::findConverter(
@@ -40,7 +39,7 @@ std::shared_ptr<const BaseData> TypeCompatibility::adapt(
     const std::shared_ptr<const BaseData>& data, const std::shared_ptr<BaseType>& source,
     const std::shared_ptr<BaseType>& target)
 {
-    if (agree(source, target))
+    if (agrees(source, target))
         return data;
     auto converter = findConverter(source, target);
     if (!converter)

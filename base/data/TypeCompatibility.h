@@ -14,6 +14,9 @@ class DataConverter;
 class TypeCompatibility {
 public:
     // Same type, an ancestor of the source, or a registered converter.
+    // Whether data of `source` serve `target` as they are (an unknown type agrees).
+    static bool agrees(const std::shared_ptr<BaseType>& source,
+                       const std::shared_ptr<BaseType>& target);
     static bool isCompatible(const std::shared_ptr<BaseType>& source,
                              const std::shared_ptr<BaseType>& target);
 

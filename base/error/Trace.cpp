@@ -5,33 +5,29 @@
 namespace VRK {
 
 namespace {
-struct Frame {
-    std::string text;
-    const void* subject;
-    std::string (*describe)(const void*);
-};
-
-std::vector<Frame>& frames()
-{
-    thread_local std::vector<Frame> stack;
-    return stack;
-}
+thread_local Trace* innermost = nullptr;
 } // namespace
 
-Trace::Trace(const std::string& frame) { frames().push_back(Frame{frame, nullptr, nullptr}); }
+Trace::Trace(const std::string& frame) : text_(frame), outer_(innermost) { innermost = this; }
 
 Trace::Trace(const void* subject, std::string (*describe)(const void*))
+    : subject_(subject), describe_(describe), outer_(innermost)
 {
-    frames().push_back(Frame{std::string(), subject, describe});
+    innermost = this;
 }
 
-Trace::~Trace() { frames().pop_back(); }
+Trace::~Trace() { innermost = outer_; }
+
+std::string Trace::describe() const { return describe_ ? describe_(subject_) : text_; }
 
 std::string Trace::getDescription()
 {
+    std::vector<const Trace*> frames;
+    for (const Trace* frame = innermost; frame; frame = frame->outer_)
+        frames.push_back(frame);
     std::string description;
-    for (const auto& frame : frames())
-        description += "  " + (frame.describe ? frame.describe(frame.subject) : frame.text) + "\n";
+    for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame)
+        description += "  " + (*frame)->describe() + "\n";
     return description;
 }
 

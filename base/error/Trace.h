@@ -7,7 +7,8 @@ namespace VRK {
 
 // The host's call trace: what the current thread is doing, outermost first. Work that
 // a user would want named in an error (running a functor, reading a script) opens a
-// frame for its duration.
+// frame for its duration. Frames live on the stack of the code that opens them and
+// link to the frame they opened inside, so that opening one costs a few stores.
 class Trace {
 public:
     explicit Trace(const std::string& frame);
@@ -20,6 +21,14 @@ public:
 
     // One line per open frame, outermost first; empty when none is open.
     static std::string getDescription();
+
+private:
+    std::string describe() const;
+
+    std::string text_;
+    const void* subject_ = nullptr;
+    std::string (*describe_)(const void*) = nullptr;
+    Trace* outer_;
 };
 
 } // namespace VRK

@@ -217,7 +217,7 @@ StrongInputPort* ContainerFunctor::getInternalInputPort(const std::string& name)
     return nullptr;
 }
 
-OutputPort* ContainerFunctor::getInternalOutputPort(const std::string& name) const
+OutputPort* ContainerFunctor::getInternalOutputPort(std::string_view name) const
 {
     for (const auto& port : internalOutputs_)
         if (port->getName() == name)

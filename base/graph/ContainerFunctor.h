@@ -47,7 +47,7 @@ public:
                               const std::shared_ptr<BaseType>& type);
     void addInternalInputPort(const FeedbackStrongInputPort& port);
     StrongInputPort* getInternalInputPort(const std::string& name) const;
-    OutputPort* getInternalOutputPort(const std::string& name) const;
+    OutputPort* getInternalOutputPort(std::string_view name) const;
     const std::vector<std::shared_ptr<StrongInputPort>>& getInternalInputPorts() const
     {
         return internalInputs_;
@@ -59,14 +59,14 @@ public:
 
     // Typed access to internal ports; PortTypeT is the port's type class.
     template <class PortTypeT>
-    void setInternalOutputPortValue(const std::string& name,
+    void setInternalOutputPortValue(std::string_view name,
                                     const typename PortTypeT::DataType::ValueType& value)
     {
         OutputPort* port = getInternalOutputPort(name);
         assert(port != 0 && "port != 0");
         assert(PortTypeT::getInstance() == port->getType()
                && "PortTypeT::getInstance() == port->getType()");
-        port->setDataPtr(std::make_shared<const typename PortTypeT::DataType>(value));
+        port->setDataPtr(DataPool::make<typename PortTypeT::DataType>(value));
     }
     template <class PortTypeT>
     const typename PortTypeT::DataType::ValueType&

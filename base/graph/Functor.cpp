@@ -104,6 +104,18 @@ void Functor::onIndirectContainerAdded(FunctorContainer&, size_t) {}
 void Functor::onIndirectContainerErased(size_t) {}
 
 namespace {
+// Functors look their ports up by name at every run: names are short, and comparing
+// them in place costs less than a call to compare memory.
+bool isNamed(const std::string& name, std::string_view wanted)
+{
+    if (name.size() != wanted.size())
+        return false;
+    for (size_t index = 0; index < name.size(); ++index)
+        if (name[index] != wanted[index])
+            return false;
+    return true;
+}
+
 std::string describeRun(const void* functor)
 {
     return "running " + FunctorNameUtils::describeAt(*static_cast<const Functor*>(functor));
@@ -194,10 +206,10 @@ void Functor::adoptOutputPort(const std::shared_ptr<OutputPort>& port)
     port->setOwner(this);
 }
 
-InputPort* Functor::getInputPort(const std::string& nameOrAlias) const
+InputPort* Functor::getInputPort(std::string_view nameOrAlias) const
 {
     for (const auto& port : inputs_)
-        if (port->getName() == nameOrAlias)
+        if (isNamed(port->getName(), nameOrAlias))
             return port.get();
     for (const auto& alias : inputAliases_)
         if (alias.first == nameOrAlias)
@@ -205,10 +217,10 @@ InputPort* Functor::getInputPort(const std::string& nameOrAlias) const
     return nullptr;
 }
 
-OutputPort* Functor::getOutputPort(const std::string& name) const
+OutputPort* Functor::getOutputPort(std::string_view name) const
 {
     for (const auto& port : outputs_)
-        if (port->getName() == name)
+        if (isNamed(port->getName(), name))
             return port.get();
     return nullptr;
 }
@@ -234,14 +246,14 @@ bool Functor::getFlag(FunctorFlag flag) const
     return flags_.test(flag);
 }
 
-InputPort& Functor::requireInputPort(const std::string& name) const
+InputPort& Functor::requireInputPort(std::string_view name) const
 {
     InputPort* port = getInputPort(name);
     assert(port != 0 && "the functor declares the input it asks for");
     return *port;
 }
 
-OutputPort& Functor::requireOutputPort(const std::string& name) const
+OutputPort& Functor::requireOutputPort(std::string_view name) const
 {
     OutputPort* port = getOutputPort(name);
     assert(port != 0 && "the functor declares the output it asks for");

@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_GRAPH_FUNCTOR_H
 #define VRK_BASE_GRAPH_FUNCTOR_H
 
+#include "base/data/DataCast.h"
+#include "base/data/DataPool.h"
 #include "base/data/Typeable.h"
 #include "base/error/DataException.h"
 #include "base/error/ExceptionUtils.h"
@@ -15,6 +17,8 @@
 #include <cassert>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <typeinfo>
 #include <vector>
 
 namespace VRK {
@@ -84,22 +88,37 @@ public:
                        const std::shared_ptr<BaseType>& type, bool linked = false);
     void addOutputPort(const OutputPort& port, const std::vector<std::string>& aliases = {});
 
-    InputPort* getInputPort(const std::string& nameOrAlias) const;
-    OutputPort* getOutputPort(const std::string& name) const;
+    InputPort* getInputPort(std::string_view nameOrAlias) const;
+    OutputPort* getOutputPort(std::string_view name) const;
     const std::vector<std::shared_ptr<InputPort>>& getInputPorts() const { return inputs_; }
     const std::vector<std::shared_ptr<OutputPort>>& getOutputPorts() const { return outputs_; }
     std::vector<std::string> getInputPortAliases(const std::string& name) const;
 
     // The value of an input as data class DataT (an Int input read as DoubleData works).
     template <class DataT>
-    const typename DataT::ValueType& getInputPortValue(const std::string& name) const
+    const typename DataT::ValueType& getInputPortValue(std::string_view name) const
     {
         return typedData<DataT>(requireInputPort(name)).getValue();
     }
     template <class DataT>
-    void setOutputPortValue(const std::string& name, const typename DataT::ValueType& value)
+    void setOutputPortValue(std::string_view name, const typename DataT::ValueType& value)
     {
-        requireOutputPort(name).setDataPtr(std::make_shared<const DataT>(value));
+        requireOutputPort(name).setDataPtr(DataPool::make<DataT>(value));
+    }
+
+    // Passes the data of input `from` on to output `to` as DataT: the data object
+    // itself when it is of that very class (data are immutable), a new DataT of its
+    // value otherwise.
+    template <class DataT>
+    void passOnInputPortValue(std::string_view from, std::string_view to)
+    {
+        const InputPort& input = requireInputPort(from);
+        const DataT& data = typedData<DataT>(input);
+        OutputPort& output = requireOutputPort(to);
+        if (typeid(data) == typeid(DataT))
+            output.setDataPtr(input.getDataPtr());
+        else
+            output.setDataPtr(DataPool::make<DataT>(data.getValue()));
     }
 
     void setFlag(FunctorFlag flag, bool value);
@@ -119,8 +138,8 @@ public:
     void setPosition(const ScriptPosition& position) { position_ = position; }
 
 protected:
-    InputPort& requireInputPort(const std::string& name) const;
-    OutputPort& requireOutputPort(const std::string& name) const;
+    InputPort& requireInputPort(std::string_view name) const;
+    OutputPort& requireOutputPort(std::string_view name) const;
 
     // The data of `holder` as DataT; a missing or foreign datum is the modeller's error.
     template <class DataT>
@@ -128,7 +147,7 @@ protected:
     {
         if (!holder.hasData())
             ExceptionUtils::raise<DataException>(missingDataMessage(holder));
-        const DataT* data = dynamic_cast<const DataT*>(&holder.getData());
+        const DataT* data = DataCast::find<DataT>(holder.getData());
         if (!data)
             ExceptionUtils::raise<IllegalTypeException>(wrongDataMessage(holder));
         return *data;

@@ -29,8 +29,14 @@ Logger::Logger() : mainFilter_(getDefaultFilter()) {}
 
 Logger* Logger::getCurrentThreadLogger()
 {
-    thread_local std::unique_ptr<Logger> logger(new Logger());
-    return logger.get();
+    // Asked for at every functor and loop pass: a plain pointer is read without the
+    // check for first use that an owning thread-local costs.
+    thread_local Logger* logger = nullptr;
+    if (!logger) {
+        thread_local std::unique_ptr<Logger> owner(new Logger());
+        logger = owner.get();
+    }
+    return logger;
 }
 
 void Logger::setDefaultFilter(const std::shared_ptr<LogFilter>& filter)

@@ -10,6 +10,8 @@
 #include "base/task/Task.h"
 #include "base/task/TaskCancellation.h"
 
+#include <tbb/task_arena.h>
+
 namespace VRK {
 
 ParallelPass::ParallelPass(const PassSchedule& schedule, LogTag tag)
@@ -29,8 +31,22 @@ ParallelPass::ParallelPass(const PassSchedule& schedule, LogTag tag)
 
 ParallelPass::~ParallelPass() = default;
 
-// The roots are picked before any starts: once one runs, the counts move.
 void ParallelPass::run()
+{
+    // A processor policy's limit holds for everything its contents start, nested
+    // passes included: they run in an arena of that many threads.
+    const int limit = int(processors_);
+    if (limit > 0 && limit < tbb::this_task_arena::max_concurrency()) {
+        tbb::task_arena arena(limit);
+        arena.execute([this] { runAll(); });
+    } else {
+        runAll();
+    }
+    rethrow();
+}
+
+// The roots are picked before any starts: once one runs, the counts move.
+void ParallelPass::runAll()
 {
     std::vector<size_t> roots;
     for (size_t position = 0; position < order_.size(); ++position)
@@ -39,7 +55,6 @@ void ParallelPass::run()
     for (size_t root : roots)
         start(root);
     group_.wait();
-    rethrow();
 }
 
 void ParallelPass::start(size_t position)

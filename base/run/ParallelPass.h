@@ -43,6 +43,7 @@ public:
     void run();
 
 private:
+    void runAll();
     static constexpr size_t None = std::numeric_limits<size_t>::max();
 
     void start(size_t position);

@@ -2,6 +2,7 @@
 
 #include "plugins/prim/BoolType.h"
 #include "plugins/prim/DataCast.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 namespace Prim {
 
@@ -15,7 +16,7 @@ BoolEditor::~BoolEditor() = default;
 
 void BoolEditor::toStream(std::ostream& out, int) const { out << (value_ ? "Yes" : "No"); }
 
-void BoolEditor::packData() { setDataPtr(std::make_shared<const BoolData>(value_)); }
+void BoolEditor::packData() { PrimEditorUtils::pack<BoolData>(*this, value_); }
 
 void BoolEditor::unpackData(const VRK::BaseData& data)
 {

@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_PRIM_DATACAST_H
 #define VRK_PLUGINS_PRIM_DATACAST_H
 
-#include "base/data/BaseData.h"
+#include "base/data/DataCast.h"
 
 #include <cassert>
 
@@ -14,7 +14,7 @@ public:
     template <class DataT>
     static const DataT& as(const VRK::BaseData& data)
     {
-        const DataT* typed = dynamic_cast<const DataT*>(&data);
+        const DataT* typed = VRK::DataCast::find<DataT>(data);
         assert(typed != 0 && "typed != 0");
         return *typed;
     }

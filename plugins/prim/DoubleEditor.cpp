@@ -3,6 +3,7 @@
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/DoubleType.h"
 #include "plugins/prim/EditorCheckUtils.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <cmath>
 
@@ -17,7 +18,7 @@ DoubleEditor::DoubleEditor()
 
 DoubleEditor::~DoubleEditor() = default;
 
-void DoubleEditor::packData() { setDataPtr(std::make_shared<const DoubleData>(value_)); }
+void DoubleEditor::packData() { PrimEditorUtils::pack<DoubleData>(*this, value_); }
 
 void DoubleEditor::unpackData(const VRK::BaseData& data)
 {

@@ -2,6 +2,7 @@
 
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/IntType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 namespace Prim {
 
@@ -12,7 +13,7 @@ IntEditor::IntEditor()
 
 IntEditor::~IntEditor() = default;
 
-void IntEditor::packData() { setDataPtr(std::make_shared<const IntData>(value_)); }
+void IntEditor::packData() { PrimEditorUtils::pack<IntData>(*this, value_); }
 
 void IntEditor::unpackData(const VRK::BaseData& data)
 {

@@ -4,6 +4,7 @@
 #include "base/error/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/IntSetType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <iterator>
 #include <sstream>
@@ -18,7 +19,7 @@ IntSetEditor::IntSetEditor()
 
 IntSetEditor::~IntSetEditor() = default;
 
-void IntSetEditor::packData() { setDataPtr(std::make_shared<const IntSetData>(values_)); }
+void IntSetEditor::packData() { PrimEditorUtils::pack<IntSetData>(*this, values_); }
 
 void IntSetEditor::unpackData(const VRK::BaseData& data)
 {

@@ -3,6 +3,7 @@
 #include "base/log/LogTagInfo.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/LogTagType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 namespace Prim {
 
@@ -19,7 +20,7 @@ void LogTagEditor::toStream(std::ostream& out, int) const
     out << VRK::LogTagInfo::getName(value_);
 }
 
-void LogTagEditor::packData() { setDataPtr(std::make_shared<const LogTagData>(value_)); }
+void LogTagEditor::packData() { PrimEditorUtils::pack<LogTagData>(*this, value_); }
 
 void LogTagEditor::unpackData(const VRK::BaseData& data)
 {

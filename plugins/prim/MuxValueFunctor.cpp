@@ -26,8 +26,7 @@ MuxValue::~MuxValue() = default;
 void MuxValue::runImpl()
 {
     const bool fed = getInputPort("feedback")->hasData();
-    setOutputPortValue<DoubleData>("value",
-                                   getInputPortValue<DoubleData>(fed ? "feedback" : "initial"));
+    passOnInputPortValue<DoubleData>(fed ? "feedback" : "initial", "value");
     ControlLog::log(VRK::debug, [&](std::ostream& line) {
         line << "Functor \"" << getName() << ":" << static_cast<const void*>(this)
              << "\" forwarded the " << (fed ? "feedback" : "initial") << " data.";

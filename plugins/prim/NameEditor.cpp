@@ -5,6 +5,7 @@
 #include "base/util/NameUtils.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/NameType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <utility>
 
@@ -19,7 +20,7 @@ NameEditor::NameEditor()
 
 NameEditor::~NameEditor() = default;
 
-void NameEditor::packData() { setDataPtr(std::make_shared<const NameData>(value_)); }
+void NameEditor::packData() { PrimEditorUtils::pack<NameData>(*this, value_); }
 
 void NameEditor::unpackData(const VRK::BaseData& data)
 {

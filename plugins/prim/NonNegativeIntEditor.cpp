@@ -4,6 +4,7 @@
 #include "base/error/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/NonNegativeIntType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <sstream>
 
@@ -18,10 +19,7 @@ NonNegativeIntEditor::NonNegativeIntEditor()
 
 NonNegativeIntEditor::~NonNegativeIntEditor() = default;
 
-void NonNegativeIntEditor::packData()
-{
-    setDataPtr(std::make_shared<const NonNegativeIntData>(value_));
-}
+void NonNegativeIntEditor::packData() { PrimEditorUtils::pack<NonNegativeIntData>(*this, value_); }
 
 void NonNegativeIntEditor::unpackData(const VRK::BaseData& data)
 {

@@ -5,6 +5,7 @@
 #include "base/util/PathUtils.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/PathType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ PathEditor::PathEditor()
 
 PathEditor::~PathEditor() = default;
 
-void PathEditor::packData() { setDataPtr(std::make_shared<const PathData>(value_)); }
+void PathEditor::packData() { PrimEditorUtils::pack<PathData>(*this, value_); }
 
 void PathEditor::unpackData(const VRK::BaseData& data)
 {

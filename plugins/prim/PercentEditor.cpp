@@ -4,6 +4,7 @@
 #include "base/error/IllegalDataException.h"
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/PercentType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 #include <sstream>
 
@@ -31,7 +32,7 @@ PercentEditor::PercentEditor()
 
 PercentEditor::~PercentEditor() = default;
 
-void PercentEditor::packData() { setDataPtr(std::make_shared<const PercentData>(value_)); }
+void PercentEditor::packData() { PrimEditorUtils::pack<PercentData>(*this, value_); }
 
 void PercentEditor::unpackData(const VRK::BaseData& data)
 {

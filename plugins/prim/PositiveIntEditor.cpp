@@ -3,6 +3,7 @@
 #include "plugins/prim/DataCast.h"
 #include "plugins/prim/EditorCheckUtils.h"
 #include "plugins/prim/PositiveIntType.h"
+#include "plugins/prim/PrimEditorUtils.h"
 
 namespace Prim {
 
@@ -15,7 +16,7 @@ PositiveIntEditor::PositiveIntEditor()
 
 PositiveIntEditor::~PositiveIntEditor() = default;
 
-void PositiveIntEditor::packData() { setDataPtr(std::make_shared<const PositiveIntData>(value_)); }
+void PositiveIntEditor::packData() { PrimEditorUtils::pack<PositiveIntData>(*this, value_); }
 
 void PositiveIntEditor::unpackData(const VRK::BaseData& data)
 {

@@ -1,9 +1,14 @@
 #ifndef VRK_PLUGINS_PRIM_PRIMEDITORUTILS_H
 #define VRK_PLUGINS_PRIM_PRIMEDITORUTILS_H
 
+#include "base/data/DataCast.h"
 #include "base/data/DataEditor.h"
+#include "base/data/DataPool.h"
 
 #include <cassert>
+#include <cstring>
+#include <memory>
+#include <typeinfo>
 
 namespace Prim {
 
@@ -25,6 +30,29 @@ public:
         const EditorT* editor = dynamic_cast<const EditorT*>(dataEditor);
         assert(editor != 0 && "editor != 0");
         return *editor;
+    }
+
+    // Packs `value` into `editor` as DataT. A typed-in value is packed again at every
+    // pass of a loop; while it stays the same, the datum packed last time serves.
+    template <class DataT>
+    static void pack(VRK::DataEditor& editor, const typename DataT::ValueType& value)
+    {
+        if (editor.hasData() && typeid(editor.getData()) == typeid(DataT)
+            && same(VRK::DataCast::find<DataT>(editor.getData())->getValue(), value))
+            return;
+        editor.setDataPtr(VRK::DataPool::make<DataT>(value));
+    }
+
+private:
+    template <class T>
+    static bool same(const T& packed, const T& value)
+    {
+        return packed == value;
+    }
+    // 0.0 and -0.0 compare equal but print differently.
+    static bool same(double packed, double value)
+    {
+        return std::memcmp(&packed, &value, sizeof value) == 0;
     }
 };
 

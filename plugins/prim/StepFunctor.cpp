@@ -13,9 +13,6 @@ Step::Step() : Functor("Step", "Receive and pass on current model step or iterat
 
 Step::~Step() = default;
 
-void Step::runImpl()
-{
-    setOutputPortValue<NonNegativeIntData>("step", getInputPortValue<NonNegativeIntData>("step"));
-}
+void Step::runImpl() { passOnInputPortValue<NonNegativeIntData>("step", "step"); }
 
 } // namespace Prim

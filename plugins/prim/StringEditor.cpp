@@ -1,6 +1,7 @@
 #include "plugins/prim/StringEditor.h"
 
 #include "plugins/prim/DataCast.h"
+#include "plugins/prim/PrimEditorUtils.h"
 #include "plugins/prim/StringType.h"
 
 #include <utility>
@@ -15,7 +16,7 @@ StringEditor::StringEditor()
 
 StringEditor::~StringEditor() = default;
 
-void StringEditor::packData() { setDataPtr(std::make_shared<const StringData>(value_)); }
+void StringEditor::packData() { PrimEditorUtils::pack<StringData>(*this, value_); }
 
 void StringEditor::unpackData(const VRK::BaseData& data)
 {
