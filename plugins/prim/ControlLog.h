@@ -13,13 +13,19 @@ namespace Prim {
 // when it will be kept, so that loops pay nothing per pass for hidden lines.
 class ControlLog {
 public:
+    // Whether the current thread's logger keeps lines of `tag`.
+    static bool isShown(VRK::LogTag tag)
+    {
+        return VRK::Logger::getCurrentThreadLogger()->isLogging(tag);
+    }
+
     // `write` puts the line into the stream it is given.
     template <class Writer>
     static void log(VRK::LogTag tag, Writer write)
     {
-        VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
-        if (!logger->isLogging(tag))
+        if (!isShown(tag))
             return;
+        VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
         std::ostringstream line;
         line.precision(20);
         write(line);

@@ -1,5 +1,6 @@
 #include "plugins/prim/ForFunctor.h"
 
+#include "base/data/DataPool.h"
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"
 #include "base/graph/FunctorNameUtils.h"
@@ -7,6 +8,7 @@
 #include "plugins/prim/ControlLog.h"
 #include "plugins/prim/IntData.h"
 #include "plugins/prim/LoopUtils.h"
+#include "plugins/prim/NonNegativeIntData.h"
 #include "plugins/prim/NonNegativeIntType.h"
 #include "plugins/prim/PositiveIntType.h"
 
@@ -88,22 +90,30 @@ void For::runImpl()
     if (first > last)
         return;
     VRK::Task& task = LoopUtils::currentTask();
+    // Looked up once for all passes: the step's port, and whether the log keeps the
+    // loop's lines (a log policy changes the level only around its own contents).
+    VRK::OutputPort& stepPort = *getInternalOutputPort("step");
+    const bool banners = ControlLog::isShown(VRK::info);
+    const bool traces = ControlLog::isShown(VRK::debug);
     // In 64 bits the step after a last of 2147483647 ends the loop instead of wrapping.
     for (std::int64_t step = first; step <= last; step += increment) {
         task.checkCancellation();
-        ControlLog::log(VRK::info, [&](std::ostream& line) {
-            line << "\n===[ Running step " << step << ", from " << first << " to " << last
-                 << " ]===\n";
-        });
-        ControlLog::log(VRK::debug, [&](std::ostream& line) {
-            line << "For: Running step " << step << ", from " << first << " to " << last << ":";
-        });
-        setInternalOutputPortValue<NonNegativeIntType>("step", std::int32_t(step));
+        if (banners)
+            ControlLog::log(VRK::info, [&](std::ostream& line) {
+                line << "\n===[ Running step " << step << ", from " << first << " to " << last
+                     << " ]===\n";
+            });
+        if (traces)
+            ControlLog::log(VRK::debug, [&](std::ostream& line) {
+                line << "For: Running step " << step << ", from " << first << " to " << last << ":";
+            });
+        stepPort.setDataPtr(VRK::DataPool::make<NonNegativeIntData>(std::int32_t(step)));
         ContainerFunctor::runImpl();
-        ControlLog::log(VRK::debug, [&](std::ostream& line) {
-            line << "For: Step " << step << ", from " << first << " to " << last
-                 << ", completed successfully.";
-        });
+        if (traces)
+            ControlLog::log(VRK::debug, [&](std::ostream& line) {
+                line << "For: Step " << step << ", from " << first << " to " << last
+                     << ", completed successfully.";
+            });
     }
 }
 

@@ -11,6 +11,7 @@
 #include "base/error/RuntimeException.h"
 #include "base/graph/ContainerFunctor.h"
 #include "base/log/LogFilterHigherTags.h"
+#include "base/run/ParallelFunctorScheduler.h"
 #include "base/script/Script.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
@@ -19,11 +20,15 @@
 #include "tests/support/PrimRegistration.h"
 
 #include <gtest/gtest.h>
+#include <tbb/task_arena.h>
 
+#include <atomic>
+#include <chrono>
 #include <cmath>
 #include <new>
 #include <sstream>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -551,6 +556,48 @@ TEST_F(ControlFlow, ProcessorPolicyLowersUnlessForcedAndAlwaysRestores)
                                  + std::to_string(test.count) + "."),
                   redefined ? 1 : 0);
     }
+    processor.setProcessorCount(processors);
+}
+
+namespace {
+
+// Counts how many of its kind run at once, and keeps the most it saw.
+class Overlap : public VRK::Functor {
+public:
+    Overlap() : Functor("Overlap", "Waits a moment while counting its peers", nullptr) {}
+    void runImpl() override
+    {
+        const int now = ++running;
+        int most = widest.load();
+        while (now > most && !widest.compare_exchange_weak(most, now)) {
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        --running;
+    }
+    static std::atomic<int> running;
+    static std::atomic<int> widest;
+};
+std::atomic<int> Overlap::running{0};
+std::atomic<int> Overlap::widest{0};
+
+} // namespace
+
+// Inside a run on eight threads, a policy of three keeps its six independent contents
+// to three at a time.
+TEST_F(ControlFlow, ProcessorPolicyLimitsHowManyOfItsContentsRunAtOnce)
+{
+    VRK::Processor& processor = VRK::ProcessorManager::Instance();
+    const unsigned int processors = processor.getProcessorCount();
+    processor.setProcessorCount(8);
+    VRK::Functor& policy = create(script, "ProcessorPolicy");
+    setCount(policy, "maximumNumberOfProcessors", 3);
+    for (int index = 0; index < 6; ++index)
+        add<Overlap>(dynamic_cast<VRK::FunctorContainer&>(policy));
+    Overlap::widest = 0;
+    tbb::task_arena wide(8);
+    wide.execute([&] { script.run(task, VRK::ParallelFunctorScheduler()); });
+    EXPECT_GE(Overlap::widest.load(), 2);
+    EXPECT_LE(Overlap::widest.load(), 3);
     processor.setProcessorCount(processors);
 }
 
