@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -10,15 +11,20 @@
 namespace Bench {
 
 // Shows the runs as usual and keeps each one's real time per iteration, so that a
-// benchmark program can print ratios measured in its own run.
+// benchmark program can print ratios measured in its own run. Of a benchmark repeated,
+// the fastest repetition is kept: on a shared machine the others measure the
+// neighbours too.
 class RecordingReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs)
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                times_[run.benchmark_name()] = run.GetAdjustedRealTime();
+            if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
+                auto kept =
+                    times_.emplace(withoutRepeats(run.benchmark_name()), run.GetAdjustedRealTime());
+                kept.first->second = std::min(kept.first->second, run.GetAdjustedRealTime());
+            }
     }
 
     // The real time per iteration of a benchmark, in its unit; 0 when it did not run.
@@ -37,6 +43,15 @@ public:
     }
 
 private:
+    // A repeated benchmark is known by its name without "/repeats:N".
+    static std::string withoutRepeats(std::string name)
+    {
+        const auto repeats = name.find("/repeats:");
+        if (repeats != std::string::npos)
+            name.erase(repeats, name.find('/', repeats + 1) - repeats);
+        return name;
+    }
+
     std::map<std::string, double> times_;
 };
 

@@ -8,7 +8,11 @@ namespace {
 thread_local Trace* innermost = nullptr;
 } // namespace
 
-Trace::Trace(const std::string& frame) : text_(frame), outer_(innermost) { innermost = this; }
+Trace::Trace(const std::string& frame)
+    : text_(std::make_unique<std::string>(frame)), outer_(innermost)
+{
+    innermost = this;
+}
 
 Trace::Trace(const void* subject, std::string (*describe)(const void*))
     : subject_(subject), describe_(describe), outer_(innermost)
@@ -18,7 +22,7 @@ Trace::Trace(const void* subject, std::string (*describe)(const void*))
 
 Trace::~Trace() { innermost = outer_; }
 
-std::string Trace::describe() const { return describe_ ? describe_(subject_) : text_; }
+std::string Trace::describe() const { return describe_ ? describe_(subject_) : *text_; }
 
 std::string Trace::getDescription()
 {

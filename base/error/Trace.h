@@ -1,6 +1,7 @@
 #ifndef VRK_BASE_ERROR_TRACE_H
 #define VRK_BASE_ERROR_TRACE_H
 
+#include <memory>
 #include <string>
 
 namespace VRK {
@@ -25,7 +26,8 @@ public:
 private:
     std::string describe() const;
 
-    std::string text_;
+    // Only frames of fixed text own one: frames of functor runs stay a few words.
+    std::unique_ptr<std::string> text_;
     const void* subject_ = nullptr;
     std::string (*describe_)(const void*) = nullptr;
     Trace* outer_;

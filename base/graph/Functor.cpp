@@ -104,18 +104,6 @@ void Functor::onIndirectContainerAdded(FunctorContainer&, size_t) {}
 void Functor::onIndirectContainerErased(size_t) {}
 
 namespace {
-// Functors look their ports up by name at every run: names are short, and comparing
-// them in place costs less than a call to compare memory.
-bool isNamed(const std::string& name, std::string_view wanted)
-{
-    if (name.size() != wanted.size())
-        return false;
-    for (size_t index = 0; index < name.size(); ++index)
-        if (name[index] != wanted[index])
-            return false;
-    return true;
-}
-
 std::string describeRun(const void* functor)
 {
     return "running " + FunctorNameUtils::describeAt(*static_cast<const Functor*>(functor));
@@ -209,7 +197,7 @@ void Functor::adoptOutputPort(const std::shared_ptr<OutputPort>& port)
 InputPort* Functor::getInputPort(std::string_view nameOrAlias) const
 {
     for (const auto& port : inputs_)
-        if (isNamed(port->getName(), nameOrAlias))
+        if (port->getName() == nameOrAlias)
             return port.get();
     for (const auto& alias : inputAliases_)
         if (alias.first == nameOrAlias)
@@ -220,7 +208,7 @@ InputPort* Functor::getInputPort(std::string_view nameOrAlias) const
 OutputPort* Functor::getOutputPort(std::string_view name) const
 {
     for (const auto& port : outputs_)
-        if (isNamed(port->getName(), name))
+        if (port->getName() == name)
             return port.get();
     return nullptr;
 }

@@ -112,9 +112,12 @@ public:
     template <class DataT>
     void passOnInputPortValue(std::string_view from, std::string_view to)
     {
-        const InputPort& input = requireInputPort(from);
+        passOnInputPortValue<DataT>(requireInputPort(from), requireOutputPort(to));
+    }
+    template <class DataT>
+    void passOnInputPortValue(const InputPort& input, OutputPort& output)
+    {
         const DataT& data = typedData<DataT>(input);
-        OutputPort& output = requireOutputPort(to);
         if (typeid(data) == typeid(DataT))
             output.setDataPtr(input.getDataPtr());
         else

@@ -34,13 +34,18 @@ void AutoFunctorScheduler::scheduleImpl()
 
 void AutoFunctorScheduler::runImpl()
 {
-    // Reading the clock costs as much as a small pass, so passes in order are timed
-    // one in a few; a pass on the pool costs far more than the clock.
-    if (!schedule_.canRunAtOnce() || (!parallel_ && ++untimedPasses_ < PassesPerTiming)) {
+    // Reading the clock, and asking whether the pass could run at once, cost as much as
+    // a small pass: passes in order do both one in a few; a pass on the pool costs far
+    // more than either.
+    if (!parallel_ && ++untimedPasses_ < PassesPerTiming) {
         schedule_.runInOrder(getLogTag());
         return;
     }
     untimedPasses_ = 0;
+    if (!schedule_.canRunAtOnce()) {
+        schedule_.runInOrder(getLogTag());
+        return;
+    }
     const auto start = std::chrono::steady_clock::now();
     if (parallel_)
         ParallelPass(schedule_, getLogTag()).run();

@@ -26,7 +26,8 @@ bool Task::isCancelled() const { return cancelled_.load(); }
 
 void Task::checkCancellation() const
 {
-    if (isCancelled())
+    // Called before every functor: the flag is read without the virtual call.
+    if (cancelled_.load(std::memory_order_relaxed))
         throw TaskCancellation();
     const BranchStopScope* branch = BranchStopScope::current();
     if (branch && branch->isStopped())

@@ -25,8 +25,12 @@ MuxValue::~MuxValue() = default;
 
 void MuxValue::runImpl()
 {
-    const bool fed = getInputPort("feedback")->hasData();
-    passOnInputPortValue<DoubleData>(fed ? "feedback" : "initial", "value");
+    // A multiplexer forwards at every pass of a loop: its ports are reached by their
+    // place, in the order the constructor declares them, rather than looked up by name.
+    const VRK::InputPort& initial = *getInputPorts()[0];
+    const VRK::InputPort& feedback = *getInputPorts()[1];
+    const bool fed = feedback.hasData();
+    passOnInputPortValue<DoubleData>(fed ? feedback : initial, *getOutputPorts().front());
     ControlLog::log(VRK::debug, [&](std::ostream& line) {
         line << "Functor \"" << getName() << ":" << static_cast<const void*>(this)
              << "\" forwarded the " << (fed ? "feedback" : "initial") << " data.";

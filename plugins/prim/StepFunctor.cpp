@@ -13,6 +13,11 @@ Step::Step() : Functor("Step", "Receive and pass on current model step or iterat
 
 Step::~Step() = default;
 
-void Step::runImpl() { passOnInputPortValue<NonNegativeIntData>("step", "step"); }
+void Step::runImpl()
+{
+    // A step passes at every pass of a loop: its two ports are reached by their place
+    // (each is the first of its side) rather than looked up by name.
+    passOnInputPortValue<NonNegativeIntData>(*getInputPorts().front(), *getOutputPorts().front());
+}
 
 } // namespace Prim
