@@ -52,8 +52,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Fuzz::setUpOnce();
     if (size == 0)
         return 0;
-    const auto& [typeName, makeEditor] = Types[data[0] % std::size(Types)];
-    std::unique_ptr<VRK::DataEditor> editor = makeEditor();
+    const auto& type = Types[data[0] % std::size(Types)];
+    const std::string typeName = type.first;
+    std::unique_ptr<VRK::DataEditor> editor = type.second();
     Fuzz::acceptedBy([&] {
         VRK::ValueParser::read(editor.get(), typeName, Fuzz::textOf(data + 1, size - 1));
         editor->packData();
