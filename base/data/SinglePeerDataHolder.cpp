@@ -19,7 +19,7 @@ void SinglePeerDataHolder::pullData()
     if (TypeCompatibility::agrees(peer_->getType(), getType()))
         setDataPtr(peer_->getDataPtr());
     else
-        setDataPtr(TypeCompatibility::adapt(peer_->getDataPtr(), peer_->getType(), getType()));
+        setDataPtr(TypeCompatibility::convert(peer_->getDataPtr(), peer_->getType(), getType()));
 }
 
 } // namespace VRK

@@ -35,12 +35,11 @@ std::shared_ptr<DataConverter> TypeCompatibility::findConverter(
     return nullptr;
 }
 
-std::shared_ptr<const BaseData> TypeCompatibility::adapt(
-    const std::shared_ptr<const BaseData>& data, const std::shared_ptr<BaseType>& source,
-    const std::shared_ptr<BaseType>& target)
+std::shared_ptr<const BaseData>
+TypeCompatibility::convert(const std::shared_ptr<const BaseData>& data,
+                           const std::shared_ptr<BaseType>& source,
+                           const std::shared_ptr<BaseType>& target)
 {
-    if (agrees(source, target))
-        return data;
     auto converter = findConverter(source, target);
     if (!converter)
         ExceptionUtils::raise<IllegalTypeException>("No converter turns \"" + source->getName()

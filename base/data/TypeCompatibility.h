@@ -13,10 +13,10 @@ class DataConverter;
 // Whether data of one type may flow into a holder of another, and how.
 class TypeCompatibility {
 public:
-    // Same type, an ancestor of the source, or a registered converter.
     // Whether data of `source` serve `target` as they are (an unknown type agrees).
     static bool agrees(const std::shared_ptr<BaseType>& source,
                        const std::shared_ptr<BaseType>& target);
+    // Same type, an ancestor of the source, or a registered converter.
     static bool isCompatible(const std::shared_ptr<BaseType>& source,
                              const std::shared_ptr<BaseType>& target);
 
@@ -25,11 +25,11 @@ public:
     static std::shared_ptr<DataConverter> findConverter(const std::shared_ptr<BaseType>& source,
                                                         const std::shared_ptr<BaseType>& target);
 
-    // `data` of type `source` made fit for `target`: itself when the types agree,
-    // otherwise a converted copy. Throws an IllegalTypeException when it cannot.
-    static std::shared_ptr<const BaseData> adapt(const std::shared_ptr<const BaseData>& data,
-                                                 const std::shared_ptr<BaseType>& source,
-                                                 const std::shared_ptr<BaseType>& target);
+    // A converted copy of `data`, of type `source`, for `target`, whose types do not
+    // agree. Throws an IllegalTypeException when no converter serves.
+    static std::shared_ptr<const BaseData> convert(const std::shared_ptr<const BaseData>& data,
+                                                   const std::shared_ptr<BaseType>& source,
+                                                   const std::shared_ptr<BaseType>& target);
 };
 
 } // namespace VRK

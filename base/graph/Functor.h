@@ -106,14 +106,9 @@ public:
         requireOutputPort(name).setDataPtr(DataPool::make<DataT>(value));
     }
 
-    // Passes the data of input `from` on to output `to` as DataT: the data object
+    // Passes the data of `input` on to `output` as DataT: the data object
     // itself when it is of that very class (data are immutable), a new DataT of its
     // value otherwise.
-    template <class DataT>
-    void passOnInputPortValue(std::string_view from, std::string_view to)
-    {
-        passOnInputPortValue<DataT>(requireInputPort(from), requireOutputPort(to));
-    }
     template <class DataT>
     void passOnInputPortValue(const InputPort& input, OutputPort& output)
     {
