@@ -1,0 +1,65 @@
+#ifndef VRK_TESSALY_IMAGES_RASTER_H
+#define VRK_TESSALY_IMAGES_RASTER_H
+
+#include "tessaly/images/Grid.h"
+#include "tessaly/images/Image.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace Tessaly {
+
+// What one cell of a raster holds in memory. Rasters read from files of narrower
+// integer types hold Int32; of unsigned 32-bit integers, Float64.
+enum class CellType { Int32, Float32, Float64 };
+
+// A raster in memory: its grid, cells line by line, and the value that marks a null
+// cell (NoData), if any. Formulas read a NoData cell, and a NaN cell, as null.
+class Raster : public Image {
+public:
+    Raster(const Grid& grid, CellType cellType);
+    Raster(const Raster&) = default;
+    Raster& operator=(const Raster&) = default;
+    ~Raster() override;
+
+    const Grid& getGrid() const { return grid_; }
+    CellType getCellType() const { return cellType_; }
+
+    bool hasNoData() const { return hasNoData_; }
+    double getNoData() const { return noData_; }
+    void setNoData(double noData);
+    void clearNoData();
+
+    int getLineCount() const override { return grid_.lines; }
+    int getColumnCount() const override { return grid_.columns; }
+    // NaN for a null cell.
+    double getValue(int line, int column) const override;
+    // Writes NoData for NaN; on a raster without NoData, NaN is kept in floating
+    // cells and refused by an assertion in Int32 cells.
+    void setValue(int line, int column, double value);
+
+    // The cells, line by line; only for the raster's own cell type (asserted).
+    template <class T> T* cells();
+    template <class T> const T* cells() const;
+    void* rawCells() { return cells_.data(); }
+    const void* rawCells() const { return cells_.data(); }
+    static size_t getCellSize(CellType cellType);
+
+    // `count` cells of `line` from `column` as doubles, NaN for null: the fast path by
+    // which calculations read blocks of cells.
+    void readCells(int line, int column, int count, double* out) const;
+    // Stores `count` doubles from `in`, NaN as NoData (rounded to the nearest integer,
+    // halves away from zero, in Int32 cells).
+    void writeCells(int line, int column, int count, const double* in);
+
+private:
+    Grid grid_;
+    CellType cellType_;
+    bool hasNoData_ = false;
+    double noData_ = 0;
+    std::vector<std::uint8_t> cells_;
+};
+
+} // namespace Tessaly
+
+#endif
