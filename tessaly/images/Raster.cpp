@@ -1,0 +1,187 @@
+#include "tessaly/images/Raster.h"
+
+#include <cassert>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace Tessaly {
+
+namespace {
+
+const double Null = std::numeric_limits<double>::quiet_NaN();
+
+template <class T> struct CellTypeOf;
+template <> struct CellTypeOf<std::int32_t> {
+    static constexpr CellType value = CellType::Int32;
+};
+template <> struct CellTypeOf<float> {
+    static constexpr CellType value = CellType::Float32;
+};
+template <> struct CellTypeOf<double> {
+    static constexpr CellType value = CellType::Float64;
+};
+
+bool fitsInt32(double value)
+{
+    return value >= std::numeric_limits<std::int32_t>::min()
+           && value <= std::numeric_limits<std::int32_t>::max();
+}
+
+// The comparison against NoData is done in the cell type, so that a Float32 NoData
+// read from a file matches its cells exactly; a select keeps the loop vectorisable.
+template <class T>
+void readAs(const T* __restrict cells, int count, bool hasNoData, T noData,
+            double* __restrict out)
+{
+    if (!hasNoData) {
+        for (int i = 0; i < count; ++i)
+            out[i] = static_cast<double>(cells[i]);
+        return;
+    }
+    for (int i = 0; i < count; ++i)
+        out[i] = cells[i] == noData ? Null : static_cast<double>(cells[i]);
+}
+
+template <class T>
+void writeFloating(const double* __restrict in, int count, bool hasNoData, T noData,
+                   T* __restrict cells)
+{
+    if (!hasNoData) {
+        for (int i = 0; i < count; ++i)
+            cells[i] = static_cast<T>(in[i]);
+        return;
+    }
+    for (int i = 0; i < count; ++i)
+        cells[i] = in[i] != in[i] ? noData : static_cast<T>(in[i]);
+}
+
+std::int32_t roundToInt32(double value, bool hasNoData, std::int32_t noData)
+{
+    double rounded = std::round(value);
+    if (std::isnan(rounded) || !fitsInt32(rounded)) {
+        assert(hasNoData && "hasNoData_ || the value fits an Int32 cell");
+        return noData;
+    }
+    return static_cast<std::int32_t>(rounded);
+}
+
+} // namespace
+
+Raster::Raster(const Grid& grid, CellType cellType)
+    : grid_(grid), cellType_(cellType),
+      cells_(static_cast<size_t>(grid.lines) * static_cast<size_t>(grid.columns)
+             * getCellSize(cellType))
+{
+    assert(grid.lines >= 0 && grid.columns >= 0 && "a grid's size is not negative");
+}
+
+Raster::~Raster() = default;
+
+size_t Raster::getCellSize(CellType cellType)
+{
+    switch (cellType) {
+    case CellType::Int32:
+        return sizeof(std::int32_t);
+    case CellType::Float32:
+        return sizeof(float);
+    case CellType::Float64:
+        return sizeof(double);
+    }
+    assert(false && "a known cell type");
+    return 0;
+}
+
+void Raster::setNoData(double noData)
+{
+    assert((cellType_ != CellType::Int32 || (fitsInt32(noData) && std::round(noData) == noData))
+           && "an Int32 raster's NoData is an Int32");
+    assert(!std::isnan(noData) && "NoData is a number");
+    hasNoData_ = true;
+    noData_ = noData;
+}
+
+void Raster::clearNoData()
+{
+    hasNoData_ = false;
+    noData_ = 0;
+}
+
+template <class T> T* Raster::cells()
+{
+    assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
+    return reinterpret_cast<T*>(cells_.data());
+}
+
+template <class T> const T* Raster::cells() const
+{
+    assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
+    return reinterpret_cast<const T*>(cells_.data());
+}
+
+template std::int32_t* Raster::cells<std::int32_t>();
+template float* Raster::cells<float>();
+template double* Raster::cells<double>();
+template const std::int32_t* Raster::cells<std::int32_t>() const;
+template const float* Raster::cells<float>() const;
+template const double* Raster::cells<double>() const;
+
+double Raster::getValue(int line, int column) const
+{
+    double value;
+    readCells(line, column, 1, &value);
+    return value;
+}
+
+void Raster::setValue(int line, int column, double value)
+{
+    assert((hasNoData_ || cellType_ != CellType::Int32 || !std::isnan(value))
+           && "a null cell of an Int32 raster needs NoData");
+    writeCells(line, column, 1, &value);
+}
+
+void Raster::readCells(int line, int column, int count, double* out) const
+{
+    assert(line >= 0 && line < grid_.lines && column >= 0 && count >= 0
+           && column + count <= grid_.columns && "cells inside the raster");
+    size_t first = static_cast<size_t>(line) * grid_.columns + column;
+    switch (cellType_) {
+    case CellType::Int32: {
+        // A NoData that no Int32 equals marks nothing.
+        bool marks = hasNoData_ && fitsInt32(noData_) && std::round(noData_) == noData_;
+        readAs(cells<std::int32_t>() + first, count, marks,
+               marks ? static_cast<std::int32_t>(noData_) : 0, out);
+        break;
+    }
+    case CellType::Float32:
+        readAs(cells<float>() + first, count, hasNoData_, static_cast<float>(noData_), out);
+        break;
+    case CellType::Float64:
+        readAs(cells<double>() + first, count, hasNoData_, noData_, out);
+        break;
+    }
+}
+
+void Raster::writeCells(int line, int column, int count, const double* in)
+{
+    assert(line >= 0 && line < grid_.lines && column >= 0 && count >= 0
+           && column + count <= grid_.columns && "cells inside the raster");
+    size_t first = static_cast<size_t>(line) * grid_.columns + column;
+    switch (cellType_) {
+    case CellType::Int32: {
+        std::int32_t* out = cells<std::int32_t>() + first;
+        auto noData = static_cast<std::int32_t>(noData_);
+        for (int i = 0; i < count; ++i)
+            out[i] = roundToInt32(in[i], hasNoData_, noData);
+        break;
+    }
+    case CellType::Float32:
+        writeFloating(in, count, hasNoData_, static_cast<float>(noData_), cells<float>() + first);
+        break;
+    case CellType::Float64:
+        writeFloating(in, count, hasNoData_, noData_, cells<double>() + first);
+        break;
+    }
+}
+
+} // namespace Tessaly

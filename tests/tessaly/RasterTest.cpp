@@ -1,0 +1,74 @@
+#include "tessaly/images/Raster.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+
+namespace Tessaly {
+namespace {
+
+Grid grid(int lines, int columns)
+{
+    Grid result;
+    result.lines = lines;
+    result.columns = columns;
+    result.geoTransform = {{100, 10, 0, 500, 0, -10}};
+    return result;
+}
+
+TEST(RasterTest, NoDataAndNanReadAsNullInEveryCellType)
+{
+    for (CellType type : {CellType::Int32, CellType::Float32, CellType::Float64}) {
+        Raster raster(grid(2, 3), type);
+        raster.setNoData(-9999);
+        const double in[] = {1.5, NAN, -2.5, 7, -9999, 0.25};
+        raster.writeCells(0, 0, 3, in);
+        raster.writeCells(1, 0, 3, in + 3);
+        double out[3];
+        raster.readCells(0, 0, 3, out);
+        EXPECT_TRUE(std::isnan(out[1]));
+        raster.readCells(1, 1, 2, out);
+        EXPECT_TRUE(std::isnan(out[0])) << "a written NoData reads as null";
+        if (type == CellType::Int32) {
+            EXPECT_EQ(raster.getValue(0, 0), 2) << "halves away from zero";
+            EXPECT_EQ(raster.getValue(0, 2), -3);
+            EXPECT_EQ(raster.getValue(1, 2), 0);
+            EXPECT_EQ(raster.cells<std::int32_t>()[1], -9999);
+        } else {
+            EXPECT_EQ(raster.getValue(0, 2), -2.5);
+            EXPECT_EQ(out[1], 0.25);
+        }
+    }
+}
+
+TEST(RasterTest, FloatCellsWithoutNoDataKeepNanAndFloat32NoDataMatchesExactly)
+{
+    Raster plain(grid(1, 2), CellType::Float32);
+    plain.setValue(0, 1, NAN);
+    EXPECT_TRUE(std::isnan(plain.getValue(0, 1)));
+    EXPECT_EQ(plain.getValue(0, 0), 0);
+
+    Raster lowest(grid(1, 2), CellType::Float32);
+    lowest.setNoData(-3.4028234663852886e+38);
+    lowest.cells<float>()[0] = -3.4028234663852886e+38f;
+    lowest.cells<float>()[1] = 0.1f;
+    EXPECT_TRUE(std::isnan(lowest.getValue(0, 0)));
+    EXPECT_EQ(lowest.getValue(0, 1), static_cast<double>(0.1f));
+    lowest.clearNoData();
+    EXPECT_FALSE(std::isnan(lowest.getValue(0, 0)));
+}
+
+TEST(RasterTest, GridsMeetOnSizeAndTransformNotOnProjection)
+{
+    Grid a = grid(2, 3), b = grid(2, 3);
+    b.projection = "LOCAL_CS[\"x\"]";
+    EXPECT_TRUE(a.isSameGridAs(b));
+    b.geoTransform[1] = 20;
+    EXPECT_FALSE(a.isSameGridAs(b));
+    EXPECT_FALSE(a.isSameGridAs(grid(3, 2)));
+    EXPECT_EQ(a.describe(), "3 x 2 cells, origin (100, 500), cell size (10, -10)");
+}
+
+} // namespace
+} // namespace Tessaly
