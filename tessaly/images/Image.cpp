@@ -13,4 +13,6 @@ double Image::getValueOrNull(int line, int column) const
     return getValue(line, column);
 }
 
+double Image::getNoDataValue() const { return std::numeric_limits<double>::quiet_NaN(); }
+
 } // namespace Tessaly

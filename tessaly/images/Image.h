@@ -18,6 +18,8 @@ public:
 
     // NaN outside the raster, so that windows at the border read as null there.
     double getValueOrNull(int line, int column) const;
+    // The number that marks a null cell in the image's storage; NaN where nothing does.
+    virtual double getNoDataValue() const;
 };
 
 } // namespace Tessaly

@@ -2,11 +2,11 @@
 #define VRK_TESSALY_IMAGES_LEAFNODES_H
 
 #include "tessaly/images/EvaluationContext.h"
+#include "tessaly/images/Image.h"
 #include "tessaly/images/IndexedExpression.h"
 #include "tessaly/images/LookupTable.h"
 
 #include <cmath>
-#include <limits>
 #include <string>
 
 namespace Tessaly {
@@ -47,13 +47,14 @@ public:
     const char* getName() const override { return "VariableValue"; }
 };
 
-// null(image): the null of the image's cells, to write a null cell on purpose.
+// null(image): the number that marks the image's null cells, to write a null cell on
+// purpose; null itself on an image without such a number.
 class ImageNullValue : public IndexedExpression {
 public:
     explicit ImageNullValue(int image) : IndexedExpression(EntityKind::Image, image) {}
-    double evaluate(const EvaluationContext&) const override
+    double evaluate(const EvaluationContext& context) const override
     {
-        return std::numeric_limits<double>::quiet_NaN();
+        return context.getImage(getIndex()).getNoDataValue();
     }
     const char* getName() const override { return "ImageNullValue"; }
 };

@@ -23,7 +23,12 @@ double mean(const std::vector<double>& values)
 
 } // namespace
 
-double NeighborhoodCount::apply(std::vector<double>& values) { return double(values.size()); }
+// The cells that hold a value other than zero, so that a window of 0/1 cells counts
+// its ones.
+double NeighborhoodCount::apply(std::vector<double>& values)
+{
+    return double(std::count_if(values.begin(), values.end(), [](double v) { return v != 0; }));
+}
 
 double NeighborhoodSum::apply(std::vector<double>& values)
 {

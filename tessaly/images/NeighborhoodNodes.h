@@ -7,7 +7,8 @@
 
 namespace Tessaly {
 
-// The window statistics; each is null over a window without values, but for the count.
+// The window statistics; each is null over a window without values, but for the count
+// (of the non-zero values), which is 0 there.
 template <class Op>
 class NeighborhoodStatistic : public NeighborhoodQuaternaryExpression {
 public:

@@ -3,6 +3,7 @@
 #include "tessaly/images/EvaluationContext.h"
 #include "tessaly/images/Image.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tessaly {
@@ -11,21 +12,26 @@ std::vector<NeighborhoodQuaternaryExpression::Cell>
 NeighborhoodQuaternaryExpression::collectWindow(const EvaluationContext& context) const
 {
     std::vector<Cell> cells;
-    double bounds[4];
+    double window[4];
     for (size_t i = 0; i < 4; ++i) {
-        bounds[i] = std::floor(evaluateChild(i, context));
-        if (!std::isfinite(bounds[i]))
+        window[i] = std::floor(evaluateChild(i, context));
+        if (!std::isfinite(window[i]))
             return cells;
     }
     const Image& image = context.getImage(image_);
-    const int line = int(context.line);
-    const int column = int(context.column);
-    const int width = int(bounds[3] - bounds[1]) + 1;
-    for (int l = int(bounds[0]); l <= int(bounds[2]); ++l)
-        for (int c = int(bounds[1]); c <= int(bounds[3]); ++c) {
-            const double value = image.getValueOrNull(line + l, column + c);
+    // Only the part of the window that overlaps the image is read, so that a window far
+    // larger than the image costs no more than the image.
+    const double top = context.line - window[2];
+    const double left = context.column - window[3];
+    const double firstLine = std::max(top, 0.0);
+    const double lastLine = std::min(top + window[0], double(image.getLineCount())) - 1;
+    const double firstColumn = std::max(left, 0.0);
+    const double lastColumn = std::min(left + window[1], double(image.getColumnCount())) - 1;
+    for (double l = firstLine; l <= lastLine; ++l)
+        for (double c = firstColumn; c <= lastColumn; ++c) {
+            const double value = image.getValue(int(l), int(c));
             if (!std::isnan(value))
-                cells.push_back({(l - int(bounds[0])) * width + (c - int(bounds[1])), value});
+                cells.push_back({(l - top) * window[1] + (c - left), value});
         }
     return cells;
 }

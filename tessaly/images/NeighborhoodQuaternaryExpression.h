@@ -9,9 +9,9 @@
 namespace Tessaly {
 
 // A statistic over a window of an image around the current cell. The four
-// arguments, evaluated at the cell and rounded down, are the offsets of the window's
-// first line, first column, last line and last column from the cell. Cells outside the
-// image and null cells are left out.
+// arguments, evaluated at the cell and rounded down, are the window's height and width
+// and the line and column of the current cell inside the window, counted from 0. Cells
+// outside the image and null cells are left out.
 class NeighborhoodQuaternaryExpression : public FixedArityExpression<4> {
 public:
     NeighborhoodQuaternaryExpression(int image, const Children& window)
@@ -32,7 +32,7 @@ protected:
     // The window's cells that hold a value, each with its place in the window counted
     // line by line from 0.
     struct Cell {
-        int place;
+        double place;
         double value;
     };
     std::vector<Cell> collectWindow(const EvaluationContext& context) const;

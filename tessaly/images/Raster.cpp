@@ -78,6 +78,8 @@ Raster::Raster(const Grid& grid, CellType cellType)
 
 Raster::~Raster() = default;
 
+double Raster::getNoDataValue() const { return hasNoData_ ? noData_ : Null; }
+
 size_t Raster::getCellSize(CellType cellType)
 {
     switch (cellType) {
@@ -128,7 +130,7 @@ template const double* Raster::cells<double>() const;
 
 double Raster::getValue(int line, int column) const
 {
-    double value;
+    double value = 0;
     readCells(line, column, 1, &value);
     return value;
 }

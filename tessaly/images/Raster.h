@@ -29,6 +29,8 @@ public:
     double getNoData() const { return noData_; }
     void setNoData(double noData);
     void clearNoData();
+    // NoData when the raster has one, else NaN.
+    double getNoDataValue() const override;
 
     int getLineCount() const override { return grid_.lines; }
     int getColumnCount() const override { return grid_.columns; }

@@ -53,9 +53,14 @@ double TopLevelImageExpression::evaluate(const EvaluationContext& context) const
     try {
         return root_->evaluate(context);
     } catch (const AbortRequest&) {
-        VRK::ExceptionUtils::raise<VRK::ExecutionAbortedException>(
-            "The expression \"" + toString() + "\" called abort.");
+        raiseAborted();
     }
+}
+
+void TopLevelImageExpression::raiseAborted() const
+{
+    VRK::ExceptionUtils::raise<VRK::ExecutionAbortedException>("The expression \"" + toString()
+                                                               + "\" called abort.");
 }
 
 std::string TopLevelImageExpression::toString() const

@@ -36,6 +36,9 @@ public:
     // The value at one cell, NaN for null. "abort" raises an exception that names the
     // formula.
     double evaluate(const EvaluationContext& context) const;
+    // The error that "abort" raises, for evaluations that catch its AbortRequest
+    // themselves.
+    [[noreturn]] void raiseAborted() const;
 
     // The formula as DefaultImageExpressionWriter writes it.
     std::string toString() const;

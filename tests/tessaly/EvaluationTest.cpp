@@ -72,10 +72,10 @@ TEST(EvaluationTest, EveryOperatorAndFunctionOnHandCheckedInputs)
         {"t1[>2]", 40},             {"t1[><3]", 20},            {"t1[/3]", 30},
         {"t1[/9]", 40},             {"t1[?4]", 1},              {"t1[?3]", 0},
         {"t1[\"count\"]", 3},       {"t1[\"maxkey\"]", 4},      {"t1[\"min\"]", 10},
-        {"nbcount(i1, -1, -1, 1, 1)", 5}, {"nbsum(i1, -1, -1, 1, 1)", 28},
-        {"nbmax(i1, -1, -1, 1, 1)", 9}, {"nbmedian(i1, -1, -1, 1, 1)", 6},
-        {"nbaverage(i1, 0, -2, 0, 0)", 5}, {"nbvar(i1, 0, -2, 0, 0)", 1},
-        {"nbconvol(i1, t1, -1, -1, -1, 1)", 10 * 3},
+        {"nbcount(i1, 3, 3, 1, 1)", 5},   {"nbsum(i1, 3, 3, 1, 1)", 28},
+        {"nbmax(i1, 3, 3, 1, 1)", 9},     {"nbmedian(i1, 3, 3, 1, 1)", 6},
+        {"nbaverage(i1, 1, 3, 0, 2)", 5}, {"nbvar(i1, 1, 3, 0, 2)", 1},
+        {"nbconvol(i1, t1, 1, 3, 1, 1)", 10 * 3},
     };
     for (const auto& c : cases) {
         const double value = evaluate(c.formula);

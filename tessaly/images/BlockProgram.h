@@ -1,0 +1,46 @@
+#ifndef VRK_TESSALY_IMAGES_BLOCKPROGRAM_H
+#define VRK_TESSALY_IMAGES_BLOCKPROGRAM_H
+
+#include "tessaly/images/BlockStep.h"
+
+#include <vector>
+
+namespace Tessaly {
+
+class ImageExpression;
+
+// A formula compiled into steps over registers of BlockCells doubles. The subtrees that
+// do not vary from cell to cell (numbers, values, table lookups under such keys, the
+// NoData of an image) are scalars: worked out once per calculation and never spread
+// over a register.
+class BlockProgram {
+public:
+    int addConstant(double value);
+    // A subtree that needs no cell, evaluated once per calculation.
+    int addScalar(const ImageExpression& node);
+    int addRegister() { return registerCount_++; }
+    void addStep(BlockStepPtr step) { steps_.push_back(std::move(step)); }
+    void setResult(Operand result) { result_ = result; }
+
+    int getRegisterCount() const { return registerCount_; }
+    Operand getResult() const { return result_; }
+    // The scalars' values for one calculation's inputs; `data.scalars` is not read.
+    std::vector<double> computeScalars(const CalculationData& data, int imageCount) const;
+    // Leaves the block's result in the result operand.
+    void run(BlockFrame& frame) const;
+
+private:
+    struct Scalar {
+        const ImageExpression* node; // 0 for a constant
+        double constant;
+    };
+
+    std::vector<Scalar> scalars_;
+    std::vector<BlockStepPtr> steps_;
+    int registerCount_ = 0;
+    Operand result_;
+};
+
+} // namespace Tessaly
+
+#endif

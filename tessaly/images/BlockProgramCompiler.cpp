@@ -1,0 +1,265 @@
+#include "tessaly/images/BlockProgramCompiler.h"
+
+#include "tessaly/images/ArithmeticSteps.h"
+#include "tessaly/images/CellSteps.h"
+#include "tessaly/images/CompoundNodes.h"
+#include "tessaly/images/FallbackStep.h"
+#include "tessaly/images/FocalStep.h"
+#include "tessaly/images/FunctionNodes.h"
+#include "tessaly/images/LeafNodes.h"
+#include "tessaly/images/NeighborhoodQuaternaryExpression.h"
+#include "tessaly/images/TableNodes.h"
+#include "tessaly/images/TopLevelImageExpression.h"
+
+#include <array>
+#include <cassert>
+#include <cstring>
+#include <set>
+#include <string>
+
+namespace Tessaly {
+
+namespace {
+
+using UnaryMaker = BlockStepPtr (*)(Operand, int);
+using BinaryMaker = BlockStepPtr (*)(Operand, Operand, int);
+
+template <class Op> std::pair<std::string, UnaryMaker> unary()
+{
+    return {Op::Name, [](Operand operand, int result) -> BlockStepPtr {
+                return std::make_unique<UnaryStep<Op>>(operand, result);
+            }};
+}
+
+template <class Op> std::pair<std::string, BinaryMaker> binary()
+{
+    return {Op::Name, [](Operand left, Operand right, int result) -> BlockStepPtr {
+                return std::make_unique<BinaryStep<Op>>(left, right, result);
+            }};
+}
+
+template <class Op> std::pair<std::string, TableLookupStep::Lookup> lookup()
+{
+    return {Op::Name, Op::Lookup};
+}
+
+const std::map<std::string, UnaryMaker>& unaryMakers()
+{
+    using namespace Ops;
+    static const std::map<std::string, UnaryMaker> makers = {
+        unary<UnaryMinus>(), unary<BooleanNot>(), unary<SquaredRoot>(), unary<Abs>(),
+        unary<Exp>(),        unary<Ceil>(),       unary<Floor>(),       unary<Round>(),
+        unary<Sin>(),        unary<Cos>(),        unary<Tan>(),         unary<Asin>(),
+        unary<Acos>(),       unary<Atan>(),       unary<Ln>(),          unary<Log>(),
+        unary<Signal>()};
+    return makers;
+}
+
+const std::map<std::string, BinaryMaker>& binaryMakers()
+{
+    using namespace Ops;
+    static const std::map<std::string, BinaryMaker> makers = {
+        binary<BooleanOr>(),   binary<BooleanAnd>(),       binary<Equal>(),
+        binary<NotEqual>(),    binary<LessThan>(),         binary<LessThanEqual>(),
+        binary<GreaterThan>(), binary<GreaterThanEqual>(), binary<Plus>(),
+        binary<Minus>(),       binary<Times>(),            binary<Divide>(),
+        binary<Mod>(),         binary<Pow>(),              binary<Maximum>(),
+        binary<Minimum>()};
+    return makers;
+}
+
+const std::map<std::string, TableLookupStep::Lookup>& tableLookups()
+{
+    using namespace Ops;
+    static const std::map<std::string, TableLookupStep::Lookup> lookups = {
+        lookup<TableValue>(),           lookup<TableEqualLowerBoundValue>(),
+        lookup<TableLowerBoundValue>(), lookup<TableEqualUpperBoundValue>(),
+        lookup<TableUpperBoundValue>(), lookup<TableClosestValue>(),
+        lookup<TableInterpoledValue>(), lookup<TableHasKey>()};
+    return lookups;
+}
+
+const std::map<std::string, FocalStep::Statistic>& focalStatistics()
+{
+    using S = FocalStep::Statistic;
+    static const std::map<std::string, S> statistics = {{"NeighborhoodSum", S::Sum},
+                                                        {"NeighborhoodAverage", S::Average},
+                                                        {"NeighborhoodCount", S::Count},
+                                                        {"NeighborhoodMin", S::Min},
+                                                        {"NeighborhoodMax", S::Max}};
+    return statistics;
+}
+
+bool isNamed(const ImageExpression& node, const char* name)
+{
+    return std::strcmp(node.getName(), name) == 0;
+}
+
+bool anyInTree(const ImageExpression& node, bool (*test)(const ImageExpression&))
+{
+    if (test(node))
+        return true;
+    for (size_t i = 0; i < node.getChildCount(); ++i)
+        if (anyInTree(node.getChild(i), test))
+            return true;
+    return false;
+}
+
+bool abortsOrDraws(const ImageExpression& node)
+{
+    return isNamed(node, "Abort") || isNamed(node, "Rand");
+}
+
+// Abort and rand count as varying: neither may be worked out once ahead of the cells.
+bool variesByCell(const ImageExpression& node)
+{
+    static const std::set<std::string> cellNodes = {"ImageValue", "IsNull", "ImageValue2",
+                                                    "Line",       "Column", "Rand",
+                                                    "Abort"};
+    return cellNodes.count(node.getName()) != 0
+           || dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node) != nullptr;
+}
+
+int indexOf(const ImageExpression& node)
+{
+    const auto* indexed = dynamic_cast<const IndexedExpression*>(&node);
+    assert(indexed && "an indexed node");
+    return indexed->getIndex();
+}
+
+} // namespace
+
+std::unique_ptr<BlockProgram> BlockProgramCompiler::compile(const TopLevelImageExpression& formula)
+{
+    assert(formula.isCompiled() && "formula.isCompiled()");
+    BlockProgramCompiler compiler(formula.getDictionary().getCount(EntityKind::Image));
+    compiler.program_->setResult(compiler.compileNode(formula.getRoot()));
+    return std::move(compiler.program_);
+}
+
+Operand BlockProgramCompiler::compileNode(const ImageExpression& node)
+{
+    if (anyInTree(node, variesByCell))
+        return compileCellNode(node);
+    if (isNamed(node, "Value"))
+        return {true, program_->addConstant(static_cast<const _ImageExpression::Value&>(node).getValue())};
+    return {true, program_->addScalar(node)};
+}
+
+Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
+{
+    const std::string name = node.getName();
+    int slot;
+    if (name == "ImageValue")
+        return {false, loadImage(indexOf(node))};
+    if (name == "IsNull" || name == "Line" || name == "Column") {
+        const Operand result = newRegister(slot);
+        if (name == "IsNull")
+            program_->addStep(std::make_unique<IsNullStep>(loadImage(indexOf(node)), slot));
+        else
+            program_->addStep(std::make_unique<CellPlaceStep>(name == "Column", slot));
+        return result;
+    }
+    if (name == "IfThenElse" || name == "Catch")
+        return compileSelect(node);
+    if (dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node))
+        return compileWindow(node);
+    if (const auto unary = unaryMakers().find(name); unary != unaryMakers().end()) {
+        const Operand operand = compileNode(node.getChild(0));
+        const Operand result = newRegister(slot);
+        program_->addStep(unary->second(operand, slot));
+        return result;
+    }
+    if (const auto binary = binaryMakers().find(name); binary != binaryMakers().end()) {
+        const Operand left = compileNode(node.getChild(0));
+        const Operand right = compileNode(node.getChild(1));
+        const Operand result = newRegister(slot);
+        program_->addStep(binary->second(left, right, slot));
+        return result;
+    }
+    if (const auto table = tableLookups().find(name); table != tableLookups().end()) {
+        const Operand key = compileNode(node.getChild(0));
+        const Operand result = newRegister(slot);
+        const int index = static_cast<const TableExpression&>(node).getTable();
+        program_->addStep(std::make_unique<TableLookupStep>(index, table->second, key, slot));
+        return result;
+    }
+    if (name == "ImageValue2") {
+        const Operand line = compileNode(node.getChild(0));
+        const Operand column = compileNode(node.getChild(1));
+        const Operand result = newRegister(slot);
+        const int image = static_cast<const _ImageExpression::ImageValue2&>(node).getImage();
+        program_->addStep(std::make_unique<ImageCellStep>(image, line, column, slot));
+        return result;
+    }
+    return fallBack(node);
+}
+
+Operand BlockProgramCompiler::compileSelect(const ImageExpression& node)
+{
+    for (size_t i = 1; i < node.getChildCount(); ++i)
+        if (anyInTree(node.getChild(i), abortsOrDraws))
+            return fallBack(node);
+    std::array<Operand, 3> operands;
+    for (size_t i = 0; i < node.getChildCount(); ++i)
+        operands[i] = compileNode(node.getChild(i));
+    int slot;
+    const Operand result = newRegister(slot);
+    if (node.getChildCount() == 3)
+        program_->addStep(
+            std::make_unique<TernaryStep<Ops::Select>>(operands[0], operands[1], operands[2], slot));
+    else
+        program_->addStep(
+            std::make_unique<BinaryStep<Ops::CatchSelect>>(operands[0], operands[1], slot));
+    return result;
+}
+
+Operand BlockProgramCompiler::compileWindow(const ImageExpression& node)
+{
+    const auto statistic = focalStatistics().find(node.getName());
+    if (statistic == focalStatistics().end())
+        return fallBack(node);
+    std::array<Operand, 4> window;
+    for (size_t i = 0; i < 4; ++i)
+        if (anyInTree(node.getChild(i), variesByCell))
+            return fallBack(node);
+    for (size_t i = 0; i < 4; ++i)
+        window[i] = compileNode(node.getChild(i));
+    int slot;
+    const Operand result = newRegister(slot);
+    const int image = static_cast<const NeighborhoodQuaternaryExpression&>(node).getImage();
+    program_->addStep(std::make_unique<FocalStep>(statistic->second, image, window, slot));
+    return result;
+}
+
+Operand BlockProgramCompiler::fallBack(const ImageExpression& node)
+{
+    std::set<int> images;
+    node.getImageDependencies(images);
+    std::vector<std::pair<int, int>> loaded;
+    for (int image : images)
+        loaded.emplace_back(image, loadImage(image));
+    int slot;
+    const Operand result = newRegister(slot);
+    program_->addStep(std::make_unique<FallbackStep>(node, std::move(loaded), imageCount_, slot));
+    return result;
+}
+
+int BlockProgramCompiler::loadImage(int image)
+{
+    const auto known = imageRegisters_.find(image);
+    if (known != imageRegisters_.end())
+        return known->second;
+    const int slot = program_->addRegister();
+    program_->addStep(std::make_unique<ImageLoadStep>(image, slot));
+    imageRegisters_[image] = slot;
+    return slot;
+}
+
+Operand BlockProgramCompiler::newRegister(int& slot)
+{
+    slot = program_->addRegister();
+    return {false, slot};
+}
+
+} // namespace Tessaly

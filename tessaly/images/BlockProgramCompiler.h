@@ -1,0 +1,41 @@
+#ifndef VRK_TESSALY_IMAGES_BLOCKPROGRAMCOMPILER_H
+#define VRK_TESSALY_IMAGES_BLOCKPROGRAMCOMPILER_H
+
+#include "tessaly/images/BlockProgram.h"
+
+#include <map>
+#include <memory>
+
+namespace Tessaly {
+
+class TopLevelImageExpression;
+
+// Turns a formula's tree into a BlockProgram. A subtree that needs no cell becomes a
+// scalar; `if` and `?` become selects over both branches when neither can abort or
+// draw random numbers (so that working out the branch not taken changes nothing);
+// window statistics over a window fixed for the whole map become focal steps; every
+// other node without a block form is evaluated cell by cell over the block.
+// The program refers to the tree's nodes, which must outlive it.
+class BlockProgramCompiler {
+public:
+    static std::unique_ptr<BlockProgram> compile(const TopLevelImageExpression& formula);
+
+private:
+    explicit BlockProgramCompiler(int imageCount) : imageCount_(imageCount) {}
+
+    Operand compileNode(const ImageExpression& node);
+    Operand compileCellNode(const ImageExpression& node);
+    Operand compileSelect(const ImageExpression& node);
+    Operand compileWindow(const ImageExpression& node);
+    Operand fallBack(const ImageExpression& node);
+    int loadImage(int image);
+    Operand newRegister(int& slot);
+
+    std::unique_ptr<BlockProgram> program_ = std::make_unique<BlockProgram>();
+    std::map<int, int> imageRegisters_;
+    int imageCount_;
+};
+
+} // namespace Tessaly
+
+#endif

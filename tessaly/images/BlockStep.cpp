@@ -1,0 +1,7 @@
+#include "tessaly/images/BlockStep.h"
+
+namespace Tessaly {
+
+BlockStep::~BlockStep() = default;
+
+} // namespace Tessaly

@@ -1,0 +1,25 @@
+#ifndef VRK_TESSALY_IMAGES_CALCULATIONDATA_H
+#define VRK_TESSALY_IMAGES_CALCULATIONDATA_H
+
+#include <vector>
+
+namespace Tessaly {
+
+class Image;
+class LookupTable;
+class Raster;
+
+// What every block of one calculation reads, shared by all its threads: the inputs
+// indexed as in EvaluationContext, and the program's scalars, worked out once before
+// the first block.
+struct CalculationData {
+    std::vector<const Raster*> rasters;
+    std::vector<const Image*> images;
+    std::vector<double> values;
+    std::vector<const LookupTable*> tables;
+    std::vector<double> scalars;
+};
+
+} // namespace Tessaly
+
+#endif

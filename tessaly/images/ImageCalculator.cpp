@@ -1,0 +1,131 @@
+#include "tessaly/images/ImageCalculator.h"
+
+#include "base/error/ExceptionUtils.h"
+#include "base/error/IllegalDataException.h"
+#include "tessaly/images/AbortRequest.h"
+#include "tessaly/images/BlockProgramCompiler.h"
+#include "tessaly/images/TopLevelImageExpression.h"
+
+#include <tbb/blocked_range.h>
+#include <tbb/parallel_for.h>
+#include <tbb/task_arena.h>
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <limits>
+
+namespace Tessaly {
+
+namespace {
+
+// About this many cells per tile: enough to hide the cost of a task, few enough for
+// every thread to get several tiles and for cancellation to be seen often.
+constexpr int TileCells = 1 << 16;
+constexpr double DefaultNoData = -9999;
+
+double resultNoData(const Raster& first, CellType cellType)
+{
+    if (!first.hasNoData())
+        return DefaultNoData;
+    const double noData = first.getNoData();
+    const bool fitsInt32 = noData >= std::numeric_limits<std::int32_t>::min()
+                           && noData <= std::numeric_limits<std::int32_t>::max()
+                           && std::round(noData) == noData;
+    return cellType != CellType::Int32 || fitsInt32 ? noData : DefaultNoData;
+}
+
+} // namespace
+
+struct ImageCalculator::Program {
+    const TopLevelImageExpression& formula;
+    std::unique_ptr<BlockProgram> blocks;
+
+    void checkInputs(const ImageCalculationInputs& inputs) const;
+    void runTile(const CalculationData& data, int firstLine, int endLine, Raster& result) const;
+};
+
+ImageCalculator::ImageCalculator(const TopLevelImageExpression& compiledFormula)
+    : program_(new Program{compiledFormula, BlockProgramCompiler::compile(compiledFormula)})
+{
+}
+
+ImageCalculator::~ImageCalculator() = default;
+
+void ImageCalculator::Program::checkInputs(const ImageCalculationInputs& inputs) const
+{
+    const ImageExpressionDictionary& names = formula.getDictionary();
+    assert(inputs.images.size() >= size_t(names.getCount(EntityKind::Image))
+           && inputs.values.size() >= size_t(names.getCount(EntityKind::Value))
+           && inputs.tables.size() >= size_t(names.getCount(EntityKind::Table))
+           && "an input for every entry of the formula's dictionary");
+    if (inputs.images.empty() || !inputs.images[0])
+        VRK::ExceptionUtils::raise<VRK::IllegalDataException>(
+            "The expression \"" + formula.toString()
+            + "\" names no map, so there is no grid to calculate it on.");
+    const Grid& grid = inputs.images[0]->getGrid();
+    for (size_t i = 1; i < inputs.images.size(); ++i)
+        if (inputs.images[i] && !inputs.images[i]->getGrid().isSameGridAs(grid))
+            VRK::ExceptionUtils::raise<VRK::IllegalDataException>(
+                "The map " + names.getSpelling(EntityKind::Image, int(i) + 1) + " of the expression \""
+                + formula.toString() + "\" lies on a grid of "
+                + inputs.images[i]->getGrid().describe() + ", not on the grid of "
+                + names.getSpelling(EntityKind::Image, 1) + ", " + grid.describe() + ".");
+}
+
+void ImageCalculator::Program::runTile(const CalculationData& data, int firstLine, int endLine,
+                                       Raster& result) const
+{
+    std::vector<double> registers(size_t(blocks->getRegisterCount()) * BlockCells);
+    std::vector<double> scratch;
+    std::vector<double> filled;
+    const Operand out = blocks->getResult();
+    const int columns = result.getColumnCount();
+    for (int line = firstLine; line < endLine; ++line)
+        for (int column = 0; column < columns; column += BlockCells) {
+            BlockFrame frame{data, registers, scratch, line, column,
+                             std::min(BlockCells, columns - column)};
+            blocks->run(frame);
+            if (out.scalar)
+                filled.assign(size_t(frame.count), data.scalars[size_t(out.slot)]);
+            result.writeCells(line, column, frame.count,
+                              out.scalar ? filled.data() : frame.registerAt(out.slot));
+        }
+}
+
+Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType cellType,
+                                  int processors, const std::function<void()>& checkpoint) const
+{
+    program_->checkInputs(inputs);
+    const Raster& first = *inputs.images[0];
+    CalculationData data{inputs.images, {}, inputs.values, inputs.tables, {}};
+    data.images.assign(inputs.images.begin(), inputs.images.end());
+    const int imageCount = program_->formula.getDictionary().getCount(EntityKind::Image);
+    data.scalars = program_->blocks->computeScalars(data, imageCount);
+
+    Raster result(first.getGrid(), cellType);
+    result.setNoData(resultNoData(first, cellType));
+    const int lines = result.getLineCount();
+    const int tileLines = std::max(1, TileCells / std::max(1, result.getColumnCount()));
+    const int tiles = (lines + tileLines - 1) / tileLines;
+    tbb::task_arena arena(std::max(1, processors));
+    try {
+        arena.execute([&] {
+            tbb::parallel_for(tbb::blocked_range<int>(0, tiles, 1),
+                              [&](const tbb::blocked_range<int>& range) {
+                                  for (int tile = range.begin(); tile < range.end(); ++tile) {
+                                      if (checkpoint)
+                                          checkpoint();
+                                      program_->runTile(data, tile * tileLines,
+                                                        std::min(lines, (tile + 1) * tileLines),
+                                                        result);
+                                  }
+                              });
+        });
+    } catch (const AbortRequest&) {
+        program_->formula.raiseAborted();
+    }
+    return result;
+}
+
+} // namespace Tessaly
