@@ -1,0 +1,34 @@
+#include "plugins/maps/LoadMapFunctor.h"
+
+#include "plugins/maps/GdalMapReader.h"
+#include "plugins/maps/MapData.h"
+#include "plugins/maps/MapFileEditor.h"
+#include "plugins/maps/MapFileType.h"
+#include "plugins/maps/MapType.h"
+#include "plugins/maps/MapsFileUtils.h"
+#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
+
+namespace Maps {
+
+LoadMap::LoadMap()
+    : Prim::FilenamedFunctor(
+        "LoadMap", "Read a raster map from a file.", "filename", "workdir",
+        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile,
+                                  MapFileEditor::getExtensions()),
+        "suffixDigits", "step", nullptr)
+{
+    MapsFileUtils::addFilePorts(*this, MapFileType::getInstance(),
+                                "Map file to read, of any raster format.");
+    addOutputPort("map", "Map read from the file.", MapType::getInstance());
+}
+
+LoadMap::~LoadMap() = default;
+
+void LoadMap::runImpl()
+{
+    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    Prim::FilenamedFunctorVerifierAdapter::requireReadable(file);
+    setOutputPortValue<MapData>("map", GdalMapReader::read(file));
+}
+
+} // namespace Maps

@@ -1,0 +1,111 @@
+#include "plugins/maps/MapCalculationFunctor.h"
+
+#include "base/error/Exception.h"
+#include "base/run/ContainerFunctorUtils.h"
+#include "base/task/ProcessorManager.h"
+#include "base/task/Task.h"
+#include "plugins/maps/CalculationEnvironment.h"
+#include "plugins/maps/CalculationUtils.h"
+#include "plugins/maps/MapData.h"
+#include "plugins/maps/MapType.h"
+#include "plugins/prim/ImageExpressionData.h"
+#include "plugins/prim/ImageExpressionType.h"
+#include "tessaly/images/ImageCalculator.h"
+
+#include <cassert>
+
+namespace Maps {
+
+namespace {
+
+const char* const ExpressionPort = "expression";
+const char* const ImagePort = "image";
+const char* const ResultPort = "result";
+
+// Every map must lie on the grid of the first, which the result takes.
+void requireOneGrid(const Tessaly::TopLevelImageExpression& expression,
+                    const std::vector<const Tessaly::Raster*>& maps)
+{
+    const Tessaly::ImageExpressionDictionary& dictionary = expression.getDictionary();
+    if (maps.empty())
+        CalculationUtils::refuse(expression,
+                                 "names no map, so there is no grid to calculate a map on.");
+    const Tessaly::Grid& first = maps.front()->getGrid();
+    for (size_t index = 1; index < maps.size(); ++index) {
+        const Tessaly::Grid& grid = maps[index]->getGrid();
+        if (!grid.isSameGridAs(first))
+            CalculationUtils::refuse(
+                expression, "names the map "
+                                + dictionary.getSpelling(Tessaly::EntityKind::Image, int(index + 1))
+                                + " on a grid of " + grid.describe()
+                                + ", which differs from the grid of its first map "
+                                + dictionary.getSpelling(Tessaly::EntityKind::Image, 1) + ": "
+                                + first.describe() + ".");
+    }
+}
+
+} // namespace
+
+MapCalculationFunctor::MapCalculationFunctor(const std::string& name,
+                                             const std::string& description,
+                                             Tessaly::CellType cellType, bool namedImage)
+    : VRK::ContainerFunctor(name, description, nullptr), cellType_(cellType),
+      namedImage_(namedImage)
+{
+    // Optional: left out, the formula is the editor's default for the functor (i1, #image,
+    // t1[line], %table[line]).
+    addOptionalInputPort(
+        ExpressionPort,
+        "The formula, over numbered (i1, t1, v1) and named (#map, %table, $value) maps, "
+        "tables and values.",
+        Prim::ImageExpressionType::getInstance(), false, 0);
+    if (namedImage)
+        addInputPort(ImagePort, "The map that the formula names #image.", MapType::getInstance(),
+                     false);
+    addOutputPort(ResultPort, "The map of the formula, on the grid of its first map.",
+                  MapType::getInstance());
+}
+
+MapCalculationFunctor::~MapCalculationFunctor() = default;
+
+bool MapCalculationFunctor::isCompatible(VRK::Functor* functor) const
+{
+    assert(functor != 0 && "functor != 0");
+    return CalculationEnvironment::isRegistrator(*functor);
+}
+
+void MapCalculationFunctor::runContainerImpl()
+{
+    VRK::ContainerFunctorUtils::runFunctorsInContainer(*this, VRK::warning);
+    std::shared_ptr<const Tessaly::Raster> result;
+    try {
+        result = calculate();
+    } catch (VRK::Exception& error) {
+        error.setScriptPosition(getPosition());
+        throw;
+    }
+    setOutputPortValue<MapData>(ResultPort, result);
+}
+
+// The shared formula is compiled in a copy, so that passes running at once never
+// write to it.
+std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
+{
+    Tessaly::TopLevelImageExpression expression =
+        *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
+    expression.compile();
+    CalculationEnvironment environment(*this);
+    if (namedImage_)
+        environment.addMap(ImagePort, getInputPortValue<MapData>(ImagePort));
+    const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
+    requireOneGrid(expression, inputs.images);
+    const VRK::Task* task = VRK::Task::getCurrentTask();
+    const int processors = int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
+    return std::make_shared<const Tessaly::Raster>(
+        Tessaly::ImageCalculator(expression).calculate(inputs, cellType_, processors, [task] {
+            if (task)
+                task->checkCancellation();
+        }));
+}
+
+} // namespace Maps

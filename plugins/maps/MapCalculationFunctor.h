@@ -1,0 +1,40 @@
+#ifndef VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
+#define VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
+
+#include "base/graph/ContainerFunctor.h"
+#include "tessaly/images/Raster.h"
+#include "tessaly/images/TopLevelImageExpression.h"
+
+#include <memory>
+#include <string>
+
+namespace Maps {
+
+// Evaluates "expression" at every cell of the grid of the first map it names, over the
+// maps, tables and values registered inside it (and the map of its "image" input, which
+// the formula names #image, when it has one), and publishes the map on "result". The
+// calculation runs under the processor count in force and stops when the run is
+// cancelled.
+class MapCalculationFunctor : public VRK::ContainerFunctor {
+public:
+    MapCalculationFunctor(const MapCalculationFunctor&) = default;
+    ~MapCalculationFunctor() override;
+
+    bool isCompatible(VRK::Functor* functor) const override;
+    void runContainerImpl() override;
+
+protected:
+    // `namedImage`: the functor has the input "image".
+    MapCalculationFunctor(const std::string& name, const std::string& description,
+                          Tessaly::CellType cellType, bool namedImage);
+
+private:
+    std::shared_ptr<const Tessaly::Raster> calculate();
+
+    Tessaly::CellType cellType_;
+    bool namedImage_;
+};
+
+} // namespace Maps
+
+#endif

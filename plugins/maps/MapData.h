@@ -1,0 +1,25 @@
+#ifndef VRK_PLUGINS_MAPS_MAPDATA_H
+#define VRK_PLUGINS_MAPS_MAPDATA_H
+
+#include "base/data/Data.h"
+#include "base/data/NullType.h"
+#include "tessaly/images/Raster.h"
+
+#include <memory>
+
+namespace Maps {
+
+// A raster map flowing between ports. The raster is shared and never changed, so that
+// copies of the data cost nothing. Produced by functors only: no editor, no viewer.
+class MapData
+    : public VRK::Data<std::shared_ptr<const Tessaly::Raster>, VRK::NullType, VRK::NullType> {
+public:
+    MapData() = default;
+    explicit MapData(const std::shared_ptr<const Tessaly::Raster>& raster);
+    MapData(const MapData&) = default;
+    ~MapData() override;
+};
+
+} // namespace Maps
+
+#endif

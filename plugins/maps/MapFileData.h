@@ -1,0 +1,26 @@
+#ifndef VRK_PLUGINS_MAPS_MAPFILEDATA_H
+#define VRK_PLUGINS_MAPS_MAPFILEDATA_H
+
+#include "base/data/Data.h"
+#include "plugins/maps/MapFileEditor.h"
+#include "plugins/maps/MapFileViewer.h"
+#include "plugins/prim/CompoundFilename.h"
+#include "plugins/prim/FilenameData.h"
+
+namespace Maps {
+
+// The name of a map file, held as a compound filename.
+class MapFileData : public VRK::Data<Prim::CompoundFilename, MapFileViewer, MapFileEditor>,
+                    public Prim::FilenameData {
+public:
+    MapFileData() = default;
+    explicit MapFileData(const Prim::CompoundFilename& filename);
+    MapFileData(const MapFileData&) = default;
+    ~MapFileData() override;
+
+    const Prim::CompoundFilename& getCompoundFilename() const override { return getValue(); }
+};
+
+} // namespace Maps
+
+#endif

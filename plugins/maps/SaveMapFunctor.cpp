@@ -1,0 +1,35 @@
+#include "plugins/maps/SaveMapFunctor.h"
+
+#include "plugins/maps/GdalMapWriter.h"
+#include "plugins/maps/MapData.h"
+#include "plugins/maps/MapFileType.h"
+#include "plugins/maps/MapType.h"
+#include "plugins/maps/MapsFileUtils.h"
+#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
+
+namespace Maps {
+
+SaveMap::SaveMap()
+    : Prim::FilenamedFunctor(
+        "SaveMap", "Write a raster map to a GeoTIFF or an ASCII grid file.", "filename", "workdir",
+        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canWriteFile,
+                                  GdalMapWriter::getExtensions()),
+        "suffixDigits", "step", nullptr)
+{
+    addInputPort("map", "Map to write.", MapType::getInstance(), false);
+    MapsFileUtils::addFilePorts(
+        *this, MapFileType::getInstance(),
+        "Map file to write: GeoTIFF (\".tif\", \".tiff\") or ASCII grid (\".asc\").");
+}
+
+SaveMap::~SaveMap() = default;
+
+void SaveMap::runImpl()
+{
+    const std::shared_ptr<const Tessaly::Raster>& map = getInputPortValue<MapData>("map");
+    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    Prim::FilenamedFunctorVerifierAdapter::requireWritable(file);
+    GdalMapWriter::write(*map, file);
+}
+
+} // namespace Maps

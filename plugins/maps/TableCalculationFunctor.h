@@ -1,0 +1,38 @@
+#ifndef VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
+#define VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
+
+#include "base/graph/ContainerFunctor.h"
+#include "tessaly/images/LookupTable.h"
+
+#include <memory>
+#include <string>
+
+namespace Maps {
+
+// Evaluates "expression" once for each key of a table, with `line` standing for the key,
+// over the tables and values registered inside it, and publishes on "result" the table of
+// the same keys with the formula's values (null where the formula gives null). The keys
+// are those of its input "table" when it has one (the formula names it %table), else of
+// the first table that the formula names.
+class TableCalculationFunctor : public VRK::ContainerFunctor {
+public:
+    TableCalculationFunctor(const TableCalculationFunctor&) = default;
+    ~TableCalculationFunctor() override;
+
+    bool isCompatible(VRK::Functor* functor) const override;
+    void runContainerImpl() override;
+
+protected:
+    // `namedTable`: the functor has the input "table".
+    TableCalculationFunctor(const std::string& name, const std::string& description,
+                            bool namedTable);
+
+private:
+    std::shared_ptr<const Tessaly::LookupTable> calculate();
+
+    bool namedTable_;
+};
+
+} // namespace Maps
+
+#endif

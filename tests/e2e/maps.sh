@@ -1,0 +1,163 @@
+#!/usr/bin/env bash
+# Scripts that load, calculate and save maps and tables, each run in a fresh folder on
+# small ASCII grids made here, under the sequential and the parallel scheduler: every
+# cell of the written maps, NoData included, is compared with what maps_grids.py
+# computes on its own; a written GeoTIFF keeps the input's geotransform, projection and
+# NoData as gdalinfo reads them; and refused scripts end with their message and status.
+set -u
+vrk="$1"
+here="$(cd "$(dirname "$0")" && pwd)"
+grids="$here/maps_grids.py"
+top=$(mktemp -d)
+trap 'rm -rf "$top"' EXIT
+failed=0
+fail() { echo "FAIL $*"; failed=1; }
+
+# A fresh folder $work with the grids of every case and the script from standard input.
+fresh() {
+    work=$(mktemp -d "$top/case.XXXX")
+    cat > "$work/script.vrk"
+    (cd "$work" &&
+        python3 "$grids" make a.asc 6 9 1 real &&
+        python3 "$grids" make b.asc 6 9 2 real &&
+        python3 "$grids" make classes.asc 6 9 3 class &&
+        python3 "$grids" make binary.asc 6 9 4 binary &&
+        python3 "$grids" make small.asc 5 9 5 real) || fail "making grids"
+}
+# Runs the script of $work under the scheduler $2; $1 names the case.
+run_ok() {
+    (cd "$work" && "$vrk" run script.vrk --scheduler "$2" --log-level .result > out.log 2> err.log) ||
+        fail "$1 ($2): the run failed: $(cat "$work/err.log")"
+}
+# Compares $work/$2 with formula $3 over the grids after it; $1 names the case.
+expect_cells() {
+    local name="$1" out="$2" formula="$3"
+    shift 3
+    (cd "$work" && python3 "$grids" check "$formula" "$out" "$@") || fail "$name: $out differs"
+}
+# The standard error of a refused script holds "script.vrk:$3: error: $2" and the
+# status is $4; $1 names the case.
+refused() {
+    local name="$1" message="$2" place="$3" expected="$4" status
+    (cd "$work" && "$vrk" run script.vrk > /dev/null 2> err.log)
+    status=$?
+    [ "$status" = "$expected" ] || fail "$name: status $status, expected $expected"
+    grep -qF "script.vrk:$place: error: $message" "$work/err.log" ||
+        fail "$name: the error was: $(cat "$work/err.log")"
+}
+
+for scheduler in sequential parallel; do
+    fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+SaveMap map = a.map filename = "copy.asc";
+SaveMap map = a.map filename = "copy.tif";
+Workdir folder = "out" {
+    loop := For firstIterationStep = 1 lastIterationStep = 3 {
+        SaveMap map = a.map filename = "step_.asc" suffixDigits = 2 step = loop.step;
+    }
+}
+SCRIPT
+    mkdir "$work/out"
+    run_ok "copies" "$scheduler"
+    gdal_translate -q -of AAIGrid "$work/copy.tif" "$work/back.asc" || fail "copies: no GeoTIFF"
+    for out in copy.asc back.asc out/step_01.asc out/step_02.asc out/step_03.asc; do
+        expect_cells "copies ($scheduler)" "$out" plus0 a.asc
+    done
+
+    fresh <<'SCRIPT'
+t := LoadLookupTable filename = "table.csv";
+doubled := CalculateLookupTable2 expression = [ %table[line] * 2 + v1 + line ] table = t.table {
+    NumberValue value = 0.5 valueNumber = 1;
+}
+SaveLookupTable table = doubled.result filename = "doubled.csv";
+first := CalculateLookupTable {
+    NumberLookupTable table = doubled.result tableNumber = 1;
+}
+SaveLookupTable table = first.result filename = "first.csv";
+SCRIPT
+    printf 'class,weight\r\n1,10\r\n3,-2.5\r\n\r\n2,0.1\r\n' > "$work/table.csv"
+    run_ok "tables" "$scheduler"
+    expected=$'key,value\n1,21.5\n2,2.7\n3,-1.5'
+    [ "$(cat "$work/doubled.csv")" = "$expected" ] || fail "tables: $(cat "$work/doubled.csv")"
+    cmp -s "$work/doubled.csv" "$work/first.csv" || fail "tables: t1[line] changed the table"
+done
+
+# A GeoTIFF written from a GeoTIFF keeps its geotransform, projection and NoData.
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.tif";
+SaveMap map = a.map filename = "written.tif";
+SCRIPT
+gdal_translate -q -a_srs EPSG:32633 "$work/a.asc" "$work/a.tif" || fail "gdal_translate"
+run_ok "GeoTIFF" sequential
+georeference() {
+    gdalinfo -json "$1" | python3 -c 'import json, sys
+info = json.load(sys.stdin)
+print(info["geoTransform"], info["bands"][0]["noDataValue"], info["coordinateSystem"]["wkt"])'
+}
+input=$(georeference "$work/a.tif")
+written=$(georeference "$work/written.tif")
+[ "$input" = "$written" ] || fail "GeoTIFF: $written, expected $input"
+[[ "$written" == *"UTM zone 33N"* ]] || fail "GeoTIFF: projection lost: $written"
+gdalinfo "$work/written.tif" | grep -q "COMPRESSION=DEFLATE" || fail "GeoTIFF: not compressed"
+
+# Refusals: before the run (status 2) and during it (status 1), at the functor.
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+SaveMap map = a.map filename = "a.png";
+SCRIPT
+refused "unwritten format" "The \"$work/a.png\" does not represent a supported file format." 2:1 2
+
+fresh <<'SCRIPT'
+LoadMap filename = "missing.asc";
+SCRIPT
+refused "missing map" "The file \"$work/missing.asc\" can not be read." 1:1 2
+
+fresh <<'SCRIPT'
+text := LoadMap filename = "text.asc";
+SCRIPT
+echo "no grid here" > "$work/text.asc"
+refused "not a map" "The run of \"text\" (LoadMap) failed: The map file \"$work/text.asc\" can not be read as a map" 1:1 1
+
+fresh <<'SCRIPT'
+t := LoadLookupTable filename = "bad.csv";
+SCRIPT
+printf 'key,value\n1,2\n2,two\n' > "$work/bad.csv"
+refused "bad table" "The run of \"t\" (LoadLookupTable) failed: $work/bad.csv:3: The value \"two\" is not a number." 1:1 1
+
+fresh <<'SCRIPT'
+t := LoadLookupTable filename = "table.csv";
+c := CalculateLookupTable expression = [ t1[line] + t2[line] ] {
+    NumberLookupTable table = t.table tableNumber = 1;
+    NumberLookupTable table = t.table tableNumber = 1;
+}
+SCRIPT
+echo "1,2" > "$work/table.csv"
+refused "duplicate table" "The run of \"c\" (CalculateLookupTable) failed: The key \"t1\" is already in use by another hook functor." 2:1 1
+
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+c := CalculateMap expression = [ i1 + i2 ] {
+    NumberMap map = a.map mapNumber = 1;
+}
+SCRIPT
+refused "unregistered map" "The run of \"c\" (CalculateMap) failed: Undefined key \"i2\" used by expression." 2:1 1
+
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+small := LoadMap filename = "small.asc";
+c := CalculateMap2 expression = [ #image + #small ] image = a.map {
+    NameMap map = small.map mapName = "small";
+}
+SCRIPT
+refused "grid mismatch" "The run of \"c\" (CalculateMap2) failed: The expression \"#image + #small\" names the map #small on a grid of 9 x 5 cells" 3:1 1
+
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+c := CalculateLookupTable expression = [ i1 ] {
+    NumberMap map = a.map mapNumber = 1;
+}
+SCRIPT
+refused "map in a table" "The run of \"c\" (CalculateLookupTable) failed: The expression \"i1\" names a map, which CalculateLookupTable does not provide." 2:1 1
+
+[ "$failed" = 0 ] && echo "maps: all cases passed"
+exit "$failed"

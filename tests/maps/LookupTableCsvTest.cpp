@@ -1,0 +1,77 @@
+#include "plugins/maps/LookupTableCsvReader.h"
+#include "plugins/maps/LookupTableCsvWriter.h"
+
+#include "base/error/Exception.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <sstream>
+
+namespace {
+
+std::shared_ptr<const Tessaly::LookupTable> readText(const std::string& text)
+{
+    std::istringstream in(text);
+    return Maps::LookupTableCsvReader::read(in, "table.csv");
+}
+
+std::string refusal(const std::string& text)
+{
+    try {
+        readText(text);
+    } catch (const VRK::Exception& error) {
+        return error.what();
+    }
+    return "accepted";
+}
+
+} // namespace
+
+TEST(LookupTableCsv, ReadsPairsWithOrWithoutHeader)
+{
+    const auto withHeader = readText("key,value\r\n3, 30\r\n\r\n 1 ,-0.5\n  \n2,2e3\n");
+    ASSERT_EQ(withHeader->size(), 3u);
+    EXPECT_EQ(withHeader->getValue(1), -0.5);
+    EXPECT_EQ(withHeader->getValue(2), 2000);
+    EXPECT_EQ(withHeader->getValue(3), 30);
+
+    const auto bare = readText("\n7,70");
+    ASSERT_EQ(bare->size(), 1u);
+    EXPECT_EQ(bare->getValue(7), 70);
+
+    EXPECT_EQ(readText("")->size(), 0u);
+    EXPECT_EQ(readText("Class, Weight\n")->size(), 0u);
+    EXPECT_TRUE(std::isnan(readText("1,nan\n")->getValue(1)));
+}
+
+TEST(LookupTableCsv, BadLinesAreLocated)
+{
+    EXPECT_EQ(refusal("key,value\n1,2\nthree,3\n"),
+              "table.csv:3: The key \"three\" is not a number.");
+    EXPECT_EQ(refusal("1,2\n\n2,x\n"), "table.csv:3: The value \"x\" is not a number.");
+    EXPECT_EQ(refusal("1,2\n4\n"),
+              "table.csv:2: The line \"4\" does not hold two fields separated by a comma.");
+    EXPECT_EQ(refusal("1,2,3\n"),
+              "table.csv:1: The line \"1,2,3\" does not hold two fields separated by a comma.");
+    EXPECT_EQ(refusal("1,2\n2,3\n1.0,4\n"),
+              "table.csv:3: The key \"1.0\" is already given at line 1.");
+    // Only the first line may be a header.
+    EXPECT_EQ(refusal("1,2\nkey,value\n"), "table.csv:2: The key \"key\" is not a number.");
+    EXPECT_EQ(refusal("nan,1\n"), "table.csv:1: The key \"nan\" is not a number.");
+}
+
+TEST(LookupTableCsv, WrittenTableReadsBackTheSame)
+{
+    const Tessaly::LookupTable table(
+        Tessaly::LookupTable::Entries{{-1.5, 0.1}, {2, 1e300}, {1.0 / 3.0, NAN}});
+    std::ostringstream out;
+    Maps::LookupTableCsvWriter::write(table, out);
+    EXPECT_EQ(out.str(), "key,value\n-1.5,0.1\n0.3333333333333333,nan\n2,1e+300\n");
+    const auto back = readText(out.str());
+    ASSERT_EQ(back->size(), 3u);
+    EXPECT_EQ(back->getValue(-1.5), 0.1);
+    EXPECT_EQ(back->getValue(2), 1e300);
+    EXPECT_TRUE(back->hasKey(1.0 / 3.0));
+    EXPECT_TRUE(std::isnan(back->getValue(1.0 / 3.0)));
+}
