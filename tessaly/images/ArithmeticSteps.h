@@ -2,6 +2,7 @@
 #define VRK_TESSALY_IMAGES_ARITHMETICSTEPS_H
 
 #include "tessaly/images/BlockStep.h"
+#include "tessaly/images/VectorKernel.h"
 
 namespace Tessaly {
 
@@ -15,15 +16,15 @@ using Binary = void (*)(const double*, const double*, double*, int);
 using Ternary = void (*)(const double*, const double*, const double*, double*, int);
 
 template <class Op>
-void unary(const double* __restrict in, double* __restrict out, int count)
+TESSALY_VECTOR_KERNEL void unary(const double* __restrict in, double* __restrict out, int count)
 {
     for (int i = 0; i < count; ++i)
         out[i] = Op::apply(in[i]);
 }
 
 template <class Op, bool LeftScalar, bool RightScalar>
-void binary(const double* __restrict left, const double* __restrict right, double* __restrict out,
-            int count)
+TESSALY_VECTOR_KERNEL void binary(const double* __restrict left, const double* __restrict right,
+                                  double* __restrict out, int count)
 {
     const double left0 = left[0], right0 = right[0];
     for (int i = 0; i < count; ++i)
@@ -31,8 +32,8 @@ void binary(const double* __restrict left, const double* __restrict right, doubl
 }
 
 template <class Op, bool AScalar, bool BScalar, bool CScalar>
-void ternary(const double* __restrict a, const double* __restrict b, const double* __restrict c,
-             double* __restrict out, int count)
+TESSALY_VECTOR_KERNEL void ternary(const double* __restrict a, const double* __restrict b,
+                                   const double* __restrict c, double* __restrict out, int count)
 {
     const double a0 = a[0], b0 = b[0], c0 = c[0];
     for (int i = 0; i < count; ++i)

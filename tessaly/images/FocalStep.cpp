@@ -1,6 +1,7 @@
 #include "tessaly/images/FocalStep.h"
 
 #include "tessaly/images/Raster.h"
+#include "tessaly/images/VectorKernel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,8 +15,8 @@ constexpr double Null = std::numeric_limits<double>::quiet_NaN();
 
 // Null cells are left out of the sums; their count is kept apart so that a window of
 // nulls only is told from a window that sums to 0.
-void accumulateSums(const double* __restrict row, double* __restrict sums,
-                    double* __restrict counts, int n)
+TESSALY_VECTOR_KERNEL void accumulateSums(const double* __restrict row, double* __restrict sums,
+                                          double* __restrict counts, int n)
 {
     for (int i = 0; i < n; ++i) {
         const bool present = row[i] == row[i];
@@ -24,7 +25,8 @@ void accumulateSums(const double* __restrict row, double* __restrict sums,
     }
 }
 
-void accumulateNonZero(const double* __restrict row, double* __restrict counts, int n)
+TESSALY_VECTOR_KERNEL void accumulateNonZero(const double* __restrict row,
+                                             double* __restrict counts, int n)
 {
     for (int i = 0; i < n; ++i)
         counts[i] += row[i] == row[i] && row[i] != 0 ? 1.0 : 0.0;
@@ -37,7 +39,9 @@ template <bool Min> double extreme(double current, double value)
     return better || current != current ? value : current;
 }
 
-template <bool Min> void accumulateExtremes(const double* __restrict row, double* __restrict out, int n)
+template <bool Min>
+TESSALY_VECTOR_KERNEL void accumulateExtremes(const double* __restrict row, double* __restrict out,
+                                              int n)
 {
     for (int i = 0; i < n; ++i)
         out[i] = extreme<Min>(out[i], row[i]);

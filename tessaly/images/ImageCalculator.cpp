@@ -103,7 +103,7 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
     const int imageCount = program_->formula.getDictionary().getCount(EntityKind::Image);
     data.scalars = program_->blocks->computeScalars(data, imageCount);
 
-    Raster result(first.getGrid(), cellType);
+    Raster result(first.getGrid(), cellType, Raster::Uninitialised());
     result.setNoData(resultNoData(first, cellType));
     const int lines = result.getLineCount();
     const int tileLines = std::max(1, TileCells / std::max(1, result.getColumnCount()));

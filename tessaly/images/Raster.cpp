@@ -1,5 +1,8 @@
 #include "tessaly/images/Raster.h"
 
+#include "tessaly/images/VectorKernel.h"
+
+#include <algorithm>
 #include <cassert>
 #include <cmath>
 #include <cstdint>
@@ -28,24 +31,22 @@ bool fitsInt32(double value)
            && value <= std::numeric_limits<std::int32_t>::max();
 }
 
-// The comparison against NoData is done in the cell type, so that a Float32 NoData
-// read from a file matches its cells exactly; a select keeps the loop vectorisable.
+// A NoData of NaN marks nothing, since no cell compares equal to it. The comparison is
+// made in double, where every Int32 and Float32 cell is exact, so that a Float32 NoData
+// read from a file matches its cells; a select keeps the loop vectorisable.
 template <class T>
-void readAs(const T* __restrict cells, int count, bool hasNoData, T noData,
-            double* __restrict out)
+TESSALY_VECTOR_KERNEL void readAs(const T* __restrict cells, int count, double noData,
+                                  double* __restrict out)
 {
-    if (!hasNoData) {
-        for (int i = 0; i < count; ++i)
-            out[i] = static_cast<double>(cells[i]);
-        return;
+    for (int i = 0; i < count; ++i) {
+        const double value = static_cast<double>(cells[i]);
+        out[i] = value == noData ? Null : value;
     }
-    for (int i = 0; i < count; ++i)
-        out[i] = cells[i] == noData ? Null : static_cast<double>(cells[i]);
 }
 
 template <class T>
-void writeFloating(const double* __restrict in, int count, bool hasNoData, T noData,
-                   T* __restrict cells)
+TESSALY_VECTOR_KERNEL void writeFloating(const double* __restrict in, int count, bool hasNoData,
+                                         T noData, T* __restrict cells)
 {
     if (!hasNoData) {
         for (int i = 0; i < count; ++i)
@@ -68,7 +69,12 @@ std::int32_t roundToInt32(double value, bool hasNoData, std::int32_t noData)
 
 } // namespace
 
-Raster::Raster(const Grid& grid, CellType cellType)
+Raster::Raster(const Grid& grid, CellType cellType) : Raster(grid, cellType, Uninitialised())
+{
+    std::fill(cells_.begin(), cells_.end(), std::uint8_t(0));
+}
+
+Raster::Raster(const Grid& grid, CellType cellType, Uninitialised)
     : grid_(grid), cellType_(cellType),
       cells_(static_cast<size_t>(grid.lines) * static_cast<size_t>(grid.columns)
              * getCellSize(cellType))
@@ -148,18 +154,15 @@ void Raster::readCells(int line, int column, int count, double* out) const
            && column + count <= grid_.columns && "cells inside the raster");
     size_t first = static_cast<size_t>(line) * grid_.columns + column;
     switch (cellType_) {
-    case CellType::Int32: {
-        // A NoData that no Int32 equals marks nothing.
-        bool marks = hasNoData_ && fitsInt32(noData_) && std::round(noData_) == noData_;
-        readAs(cells<std::int32_t>() + first, count, marks,
-               marks ? static_cast<std::int32_t>(noData_) : 0, out);
+    case CellType::Int32:
+        readAs(cells<std::int32_t>() + first, count, hasNoData_ ? noData_ : Null, out);
         break;
-    }
     case CellType::Float32:
-        readAs(cells<float>() + first, count, hasNoData_, static_cast<float>(noData_), out);
+        readAs(cells<float>() + first, count,
+               hasNoData_ ? static_cast<double>(static_cast<float>(noData_)) : Null, out);
         break;
     case CellType::Float64:
-        readAs(cells<double>() + first, count, hasNoData_, noData_, out);
+        readAs(cells<double>() + first, count, hasNoData_ ? noData_ : Null, out);
         break;
     }
 }

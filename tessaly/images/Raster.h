@@ -1,6 +1,7 @@
 #ifndef VRK_TESSALY_IMAGES_RASTER_H
 #define VRK_TESSALY_IMAGES_RASTER_H
 
+#include "tessaly/images/CellAllocator.h"
 #include "tessaly/images/Grid.h"
 #include "tessaly/images/Image.h"
 
@@ -17,9 +18,12 @@ enum class CellType { Int32, Float32, Float64 };
 // cell (NoData), if any. Formulas read a NoData cell, and a NaN cell, as null.
 class Raster : public Image {
 public:
+    // Every cell 0.
     Raster(const Grid& grid, CellType cellType);
     Raster(const Raster&) = default;
     Raster& operator=(const Raster&) = default;
+    Raster(Raster&&) = default;
+    Raster& operator=(Raster&&) = default;
     ~Raster() override;
 
     const Grid& getGrid() const { return grid_; }
@@ -55,11 +59,16 @@ public:
     void writeCells(int line, int column, int count, const double* in);
 
 private:
+    friend class ImageCalculator;
+    struct Uninitialised {};
+    // For a result whose every cell is written at once: its cells are left as they come.
+    Raster(const Grid& grid, CellType cellType, Uninitialised);
+
     Grid grid_;
     CellType cellType_;
     bool hasNoData_ = false;
     double noData_ = 0;
-    std::vector<std::uint8_t> cells_;
+    std::vector<std::uint8_t, CellAllocator<std::uint8_t>> cells_;
 };
 
 } // namespace Tessaly
