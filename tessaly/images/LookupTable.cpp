@@ -29,7 +29,7 @@ LookupTable::LookupTable(Entries entries) : entries_(std::move(entries)) {}
 
 void LookupTable::setValue(double key, double value) { entries_[key] = value; }
 
-bool LookupTable::hasKey(double key) const { return entries_.count(key) != 0; }
+bool LookupTable::hasKey(double key) const { return !std::isnan(key) && entries_.count(key) != 0; }
 
 double LookupTable::getHasKey(double key) const
 {
@@ -48,7 +48,9 @@ double LookupTable::valueBefore(Entries::const_iterator at) const
 
 double LookupTable::getValue(double key) const
 {
-    return valueAt(entries_.find(key), entries_.end());
+    // A NaN key compares neither below nor above any key, so the map would take it for
+    // its first key.
+    return std::isnan(key) ? Null : valueAt(entries_.find(key), entries_.end());
 }
 
 double LookupTable::getEqualLowerBoundValue(double key) const
