@@ -82,6 +82,59 @@ SCRIPT
     cmp -s "$work/doubled.csv" "$work/first.csv" || fail "tables: t1[line] changed the table"
 done
 
+# Local, focal, table and categorical formulas, each cell against the reference.
+for scheduler in sequential parallel; do
+    fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+b := LoadMap filename = "b.asc";
+classes := LoadMap filename = "classes.asc";
+binary := LoadMap filename = "binary.asc";
+weights := LoadLookupTable filename = "weights.csv";
+local := CalculateMap expression = [ if i1 > 5 then i1 * 2 + i2 else i2 - 1 ] {
+    NumberMap map = a.map mapNumber = 1;
+    NumberMap map = b.map mapNumber = 2;
+}
+SaveMap map = local.result filename = "local.asc";
+sum := CalculateMap2 expression = [ nbsum(#image, 3, 3, 1, 1) ] image = a.map;
+SaveMap map = sum.result filename = "focal_sum.asc";
+count := CalculateCategoricalMap2 expression = [ nbcount(#image, 3, 3, 1, 1) ] image = binary.map;
+SaveMap map = count.result filename = "focal_count.asc";
+classified := CalculateMap expression = [ %weights[#classes] ] {
+    NameMap map = classes.map mapName = "classes";
+    NameLookupTable table = weights.table tableName = "weights";
+}
+SaveMap map = classified.result filename = "classified.asc";
+quarter := CalculateCategoricalMap expression = [ i1 / v1 ] {
+    NumberMap map = a.map mapNumber = 1;
+    NumberValue value = 4 valueNumber = 1;
+}
+SaveMap map = quarter.result filename = "quarter.tif";
+SCRIPT
+    printf '1,10\n2,20\n3,35.5\n4,-4\n' > "$work/weights.csv"
+    run_ok "formulas" "$scheduler"
+    expect_cells "local ($scheduler)" local.asc local a.asc b.asc
+    expect_cells "focal sum ($scheduler)" focal_sum.asc focal_sum a.asc
+    expect_cells "focal count ($scheduler)" focal_count.asc focal_count binary.asc
+    expect_cells "table ($scheduler)" classified.asc classified classes.asc
+    gdal_translate -q -of AAIGrid "$work/quarter.tif" "$work/quarter.asc"
+    expect_cells "categorical ($scheduler)" quarter.asc quarter a.asc
+    gdalinfo "$work/quarter.tif" | grep -q "Type=Int32" || fail "categorical: not Int32"
+
+    # A map carried from pass to pass by MuxMap, one file per step.
+    fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+loop := For firstIterationStep = 1 lastIterationStep = 4 {
+    state := MuxMap initial = a.map feedback = next.result;
+    next := CalculateMap2 expression = [ #image + 1 ] image = state.map;
+    SaveMap map = next.result filename = "state_.asc" suffixDigits = 2 step = loop.step;
+}
+SCRIPT
+    run_ok "loop" "$scheduler"
+    for step in 1 2 3 4; do
+        expect_cells "loop ($scheduler)" "state_0$step.asc" "plus$step" a.asc
+    done
+done
+
 # A GeoTIFF written from a GeoTIFF keeps its geotransform, projection and NoData.
 fresh <<'SCRIPT'
 a := LoadMap filename = "a.tif";
