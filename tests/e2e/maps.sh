@@ -163,6 +163,24 @@ short=$(peak_kb loop2.vrk) && long=$(peak_kb loop100.vrk) || fail "memory: a loo
 [ "${long:-0}" -le $((${short:-0} * 11 / 10)) ] ||
     fail "memory: 100 passes peak at $long KB, 2 passes at $short KB"
 
+# The example: its shipped grids are those its script makes, and every year of the town
+# is the reference's, under both schedulers.
+example="$here/../../examples/maps"
+for scheduler in sequential parallel; do
+    fresh < "$example/model.vrk"
+    (cd "$work" && python3 "$example/make-inputs.py") || fail "example: no inputs"
+    for input in landuse.asc town.asc suitability.csv; do
+        cmp -s "$work/$input" "$example/$input" || fail "example: $input is not what is made"
+    done
+    run_ok "example" "$scheduler"
+    for year in 01 02 03 04 05 06 07 08 09 10; do
+        gdal_translate -q -of AAIGrid "$work/state_$year.tif" "$work/state_$year.asc" ||
+            fail "example: no year $year"
+    done
+    (cd "$work" && python3 "$grids" town landuse.asc town.asc suitability.csv 10 state_) ||
+        fail "example ($scheduler): the town differs"
+done
+
 # A GeoTIFF written from a GeoTIFF keeps its geotransform, projection and NoData.
 fresh <<'SCRIPT'
 a := LoadMap filename = "a.tif";

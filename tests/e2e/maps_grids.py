@@ -7,6 +7,8 @@ make NAME LINES COLUMNS SEED KIND: writes NAME (.asc) with deterministic cells: 
 seventh cell or so is NoData (-9999).
 check FORMULA OUT IN...: compares every cell of OUT, NoData included, with FORMULA
 computed here over the IN grids; prints the first differences and exits 1 on any.
+town LANDUSE TOWN TABLE YEARS PREFIX: the same for the years of examples/maps/model.vrk,
+PREFIX01.asc and on.
 """
 import math
 import sys
@@ -134,8 +136,42 @@ def check(name, out, inputs):
     return 1 if differences else 0
 
 
+def compare(out, expected):
+    written = read(out)
+    differences = [f"({line}, {column}): {written[line][column]}, expected {value}"
+                   for line, row in enumerate(expected) for column, value in enumerate(row)
+                   if written[line][column] != value]
+    for difference in differences[:5]:
+        print(f"{out}: {difference}")
+    return bool(differences)
+
+
+def town(landuse, start, table, years, prefix):
+    suitability = {}
+    with open(table) as lines:
+        for text in lines.readlines()[1:]:
+            key, value = text.split(",")
+            suitability[float(key)] = float(value)
+    classes = read(landuse)
+    built = read(start)
+    failed = False
+    for year in range(1, years + 1):
+        grown = []
+        for line, row in enumerate(built):
+            grown.append([])
+            for column, cell in enumerate(row):
+                neighbours = float(sum(1 for value in window(built, line, column, 3) if value))
+                weight = suitability.get(classes[line][column], 0.0)
+                grown[-1].append(1.0 if cell == 1 or neighbours * weight >= 1.5 else 0.0)
+        built = grown
+        failed = compare(f"{prefix}{year:02d}.asc", built) or failed
+    return 1 if failed else 0
+
+
 if __name__ == "__main__":
     if sys.argv[1] == "make":
         make(sys.argv[2], int(sys.argv[3]), int(sys.argv[4]), int(sys.argv[5]), sys.argv[6])
+    elif sys.argv[1] == "town":
+        sys.exit(town(sys.argv[2], sys.argv[3], sys.argv[4], int(sys.argv[5]), sys.argv[6]))
     else:
         sys.exit(check(sys.argv[2], sys.argv[3], sys.argv[4:]))
