@@ -163,6 +163,34 @@ short=$(peak_kb loop2.vrk) && long=$(peak_kb loop100.vrk) || fail "memory: a loo
 [ "${long:-0}" -le $((${short:-0} * 11 / 10)) ] ||
     fail "memory: 100 passes peak at $long KB, 2 passes at $short KB"
 
+# Ctrl-C during a long calculation ends the run with status 130 and writes no map: the
+# calculation listens between its tiles. The window's size is worked out at each cell,
+# so that the calculation takes minutes unless it is cancelled.
+cat > "$work/slow.vrk" <<'SCRIPT'
+big := LoadMap filename = "big.asc";
+slow := CalculateMap2 expression = [ nbsum(#image, 9 + 0 * #image, 9, 4, 4) ] image = big.map;
+SaveMap map = slow.result filename = "slow.tif";
+SCRIPT
+for scheduler in sequential parallel; do
+    (cd "$work" && exec "$vrk" run slow.vrk --scheduler "$scheduler" > /dev/null 2>&1) &
+    pid=$!
+    sleep 3
+    kill -INT "$pid"
+    waited=0
+    while kill -0 "$pid" 2>/dev/null && [ "$waited" -lt 100 ]; do
+        sleep 0.1
+        waited=$((waited + 1))
+    done
+    if kill -0 "$pid" 2>/dev/null; then
+        fail "cancel ($scheduler): still calculating ten seconds after SIGINT"
+        kill -KILL "$pid"
+    fi
+    wait "$pid"
+    status=$?
+    [ "$status" = 130 ] || fail "cancel ($scheduler): status $status, expected 130"
+    [ ! -e "$work/slow.tif" ] || fail "cancel ($scheduler): a map was written"
+done
+
 # The example: its shipped grids are those its script makes, and every year of the town
 # is the reference's, under both schedulers.
 example="$here/../../examples/maps"
