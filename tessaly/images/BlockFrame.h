@@ -9,6 +9,8 @@
 
 namespace Tessaly {
 
+class FocalColumns;
+
 // The most cells of one line that a program evaluates at once: its registers stay in
 // the first-level cache.
 constexpr int BlockCells = 256;
@@ -25,6 +27,7 @@ struct BlockFrame {
     const CalculationData& data;
     std::vector<double>& registers;
     std::vector<double>& scratch;
+    std::vector<FocalColumns>& focalColumns; // one per focal step that keeps column totals
     int line = 0;
     int column = 0;
     int count = 0;

@@ -19,6 +19,20 @@ int BlockProgram::addScalar(const ImageExpression& node)
     return int(scalars_.size()) - 1;
 }
 
+int BlockProgram::addFocalColumns(bool nonZero)
+{
+    focalColumnsNonZero_.push_back(nonZero);
+    return int(focalColumnsNonZero_.size()) - 1;
+}
+
+std::vector<FocalColumns> BlockProgram::makeFocalColumns() const
+{
+    std::vector<FocalColumns> columns;
+    for (bool nonZero : focalColumnsNonZero_)
+        columns.emplace_back(nonZero);
+    return columns;
+}
+
 std::vector<double> BlockProgram::computeScalars(const CalculationData& data, int imageCount) const
 {
     const std::vector<double> noCell(size_t(imageCount), std::numeric_limits<double>::quiet_NaN());

@@ -2,6 +2,7 @@
 #define VRK_TESSALY_IMAGES_BLOCKPROGRAM_H
 
 #include "tessaly/images/BlockStep.h"
+#include "tessaly/images/FocalColumns.h"
 
 #include <vector>
 
@@ -21,9 +22,13 @@ public:
     int addRegister() { return registerCount_++; }
     void addStep(BlockStepPtr step) { steps_.push_back(std::move(step)); }
     void setResult(Operand result) { result_ = result; }
+    // A place for a focal step's column totals in each thread's frame.
+    int addFocalColumns(bool nonZero);
 
     int getRegisterCount() const { return registerCount_; }
     Operand getResult() const { return result_; }
+    // Fresh column totals for a thread's frame.
+    std::vector<FocalColumns> makeFocalColumns() const;
     // The scalars' values for one calculation's inputs; `data.scalars` is not read.
     std::vector<double> computeScalars(const CalculationData& data, int imageCount) const;
     // Leaves the block's result in the result operand.
@@ -37,6 +42,7 @@ private:
 
     std::vector<Scalar> scalars_;
     std::vector<BlockStepPtr> steps_;
+    std::vector<bool> focalColumnsNonZero_;
     int registerCount_ = 0;
     Operand result_;
 };

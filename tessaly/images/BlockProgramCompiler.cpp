@@ -228,7 +228,11 @@ Operand BlockProgramCompiler::compileWindow(const ImageExpression& node)
     int slot;
     const Operand result = newRegister(slot);
     const int image = static_cast<const NeighborhoodQuaternaryExpression&>(node).getImage();
-    program_->addStep(std::make_unique<FocalStep>(statistic->second, image, window, slot));
+    const bool totals = statistic->second != FocalStep::Statistic::Min
+                        && statistic->second != FocalStep::Statistic::Max;
+    const int columns =
+        totals ? program_->addFocalColumns(statistic->second == FocalStep::Statistic::Count) : -1;
+    program_->addStep(std::make_unique<FocalStep>(statistic->second, image, window, columns, slot));
     return result;
 }
 

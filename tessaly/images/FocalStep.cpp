@@ -1,36 +1,19 @@
 #include "tessaly/images/FocalStep.h"
 
+#include "tessaly/images/FocalColumns.h"
 #include "tessaly/images/Raster.h"
 #include "tessaly/images/VectorKernel.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace Tessaly {
 
 namespace {
 
 constexpr double Null = std::numeric_limits<double>::quiet_NaN();
-
-// Null cells are left out of the sums; their count is kept apart so that a window of
-// nulls only is told from a window that sums to 0.
-TESSALY_VECTOR_KERNEL void accumulateSums(const double* __restrict row, double* __restrict sums,
-                                          double* __restrict counts, int n)
-{
-    for (int i = 0; i < n; ++i) {
-        const bool present = row[i] == row[i];
-        sums[i] += present ? row[i] : 0.0;
-        counts[i] += present ? 1.0 : 0.0;
-    }
-}
-
-TESSALY_VECTOR_KERNEL void accumulateNonZero(const double* __restrict row,
-                                             double* __restrict counts, int n)
-{
-    for (int i = 0; i < n; ++i)
-        counts[i] += row[i] == row[i] && row[i] != 0 ? 1.0 : 0.0;
-}
 
 // A null extreme takes any value; a null value never wins.
 template <bool Min> double extreme(double current, double value)
@@ -45,6 +28,24 @@ TESSALY_VECTOR_KERNEL void accumulateExtremes(const double* __restrict row, doub
 {
     for (int i = 0; i < n; ++i)
         out[i] = extreme<Min>(out[i], row[i]);
+}
+
+TESSALY_VECTOR_KERNEL void addShifted(const double* __restrict in, double* __restrict out, int n)
+{
+    for (int i = 0; i < n; ++i)
+        out[i] += in[i];
+}
+
+TESSALY_VECTOR_KERNEL void finishTotals(const double* __restrict sums,
+                                        const double* __restrict present, bool average,
+                                        double* __restrict out, int n)
+{
+    if (average)
+        for (int i = 0; i < n; ++i)
+            out[i] = present[i] > 0 ? sums[i] / present[i] : Null;
+    else
+        for (int i = 0; i < n; ++i)
+            out[i] = present[i] > 0 ? sums[i] : Null;
 }
 
 // Running totals: totals[k] is the sum of the first k values. Tells whether every value
@@ -66,10 +67,10 @@ int clampIndex(double index, int length)
 
 // The block's window, clipped to the image: lines firstLine to lastLine, columns start to
 // start + length; the window of the block's cell j spans [offset + j, offset + j + width)
-// of those columns before clipping.
+// of those columns before clipping, and lines [top, top + height) before clipping.
 struct FocalStep::Span {
     int firstLine, lastLine, start, length;
-    double offset, width;
+    double offset, width, top, height;
 };
 
 void FocalStep::run(BlockFrame& frame) const
@@ -81,15 +82,19 @@ void FocalStep::run(BlockFrame& frame) const
         return;
     }
     const size_t length = size_t(span.length);
-    frame.scratch.resize(5 * length + 2);
+    frame.scratch.resize(2 * length + 3 * BlockCells + NarrowWidth + 2);
     double* row = frame.scratch.data();
     double* reduced = row + length;
-    double* counts = reduced + length;
-    reduceLines(*frame.data.rasters[size_t(image_ - 1)], span, reduced, counts, row);
-    if (statistic_ == Statistic::Min || statistic_ == Statistic::Max)
+    const Raster& raster = *frame.data.rasters[size_t(image_ - 1)];
+    if (statistic_ == Statistic::Min || statistic_ == Statistic::Max) {
+        reduceLines(raster, span, reduced, row);
         combineExtremes(span, reduced, out, frame.count);
-    else
-        combineTotals(span, reduced, counts, counts + length, out, frame.count);
+        return;
+    }
+    FocalColumns& columns = frame.focalColumns[size_t(columns_)];
+    columns.moveTo(raster, span.top, span.height);
+    combineTotals(span, columns.getSums() + span.start, columns.getCounts() + span.start, row, out,
+                  frame.count);
 }
 
 bool FocalStep::findSpan(const BlockFrame& frame, Span& span) const
@@ -109,65 +114,74 @@ bool FocalStep::findSpan(const BlockFrame& frame, Span& span) const
     const double end = std::min(left + frame.count - 1 + window[1], double(raster.getColumnCount()));
     if (window[0] < 1 || window[1] < 1 || firstLine > lastLine || end <= start)
         return false;
-    span = {int(firstLine), int(lastLine), int(start), int(end - start), left - start, window[1]};
+    span = {int(firstLine), int(lastLine), int(start), int(end - start),
+            left - start,   window[1],     top,        window[0]};
     return true;
 }
 
-void FocalStep::reduceLines(const Raster& raster, const Span& span, double* reduced, double* counts,
+void FocalStep::reduceLines(const Raster& raster, const Span& span, double* reduced,
                             double* row) const
 {
     const int n = span.length;
-    const bool extremes = statistic_ == Statistic::Min || statistic_ == Statistic::Max;
-    std::fill(reduced, reduced + n, extremes ? Null : 0.0);
-    std::fill(counts, counts + n, 0.0);
+    std::fill(reduced, reduced + n, Null);
     for (int line = span.firstLine; line <= span.lastLine; ++line) {
         raster.readCells(line, span.start, n, row);
-        switch (statistic_) {
-        case Statistic::Sum:
-        case Statistic::Average:
-            accumulateSums(row, reduced, counts, n);
-            break;
-        case Statistic::Count:
-            accumulateNonZero(row, reduced, n);
-            break;
-        case Statistic::Min:
+        if (statistic_ == Statistic::Min)
             accumulateExtremes<true>(row, reduced, n);
-            break;
-        case Statistic::Max:
+        else
             accumulateExtremes<false>(row, reduced, n);
-            break;
-        }
     }
 }
 
 void FocalStep::combineTotals(const Span& span, const double* reduced, const double* counts,
-                              double* totals, double* out, int cells) const
+                              double* work, double* out, int cells) const
+{
+    double* sums = work;
+    double* present = sums + BlockCells;
+    double* rest = present + BlockCells;
+    if (span.width <= NarrowWidth) {
+        addWindows(span, reduced, rest, sums, cells);
+        if (statistic_ != Statistic::Count)
+            addWindows(span, counts, rest, present, cells);
+    } else {
+        subtractTotals(span, reduced, rest, sums, cells);
+        if (statistic_ != Statistic::Count)
+            subtractTotals(span, counts, rest, present, cells);
+    }
+    if (statistic_ == Statistic::Count)
+        std::copy(sums, sums + cells, out);
+    else
+        finishTotals(sums, present, statistic_ == Statistic::Average, out, cells);
+}
+
+void FocalStep::addWindows(const Span& span, const double* values, double* padded, double* out,
+                           int cells)
+{
+    const int width = int(span.width);
+    const int offset = int(span.offset);
+    // Padded place p holds the span's column p + offset.
+    const int total = cells + width - 1;
+    const int first = std::min(std::max(-offset, 0), total);
+    const int end = std::min(std::max(span.length - offset, first), total);
+    std::fill(padded, padded + first, 0.0);
+    std::copy(values + first + offset, values + end + offset, padded + first);
+    std::fill(padded + end, padded + total, 0.0);
+    std::fill(out, out + cells, 0.0);
+    for (int k = 0; k < width; ++k)
+        addShifted(padded + k, out, cells);
+}
+
+void FocalStep::subtractTotals(const Span& span, const double* values, double* totals, double* out,
+                               int cells)
 {
     const int n = span.length;
-    double* countTotals = totals + n + 1;
-    const bool finite = runningTotals(reduced, totals, n);
-    runningTotals(counts, countTotals, n);
+    const bool finite = runningTotals(values, totals, n);
     for (int j = 0; j < cells; ++j) {
         const int lo = clampIndex(span.offset + j, n);
         const int hi = clampIndex(span.offset + j + span.width, n);
-        double sum = totals[hi] - totals[lo];
-        if (!finite) {
-            sum = 0;
-            for (int k = lo; k < hi; ++k)
-                sum += reduced[k];
-        }
-        const double count = countTotals[hi] - countTotals[lo];
-        switch (statistic_) {
-        case Statistic::Count:
-            out[j] = sum;
-            break;
-        case Statistic::Sum:
-            out[j] = count > 0 ? sum : Null;
-            break;
-        default:
-            out[j] = count > 0 ? sum / count : Null;
-            break;
-        }
+        out[j] = totals[hi] - totals[lo];
+        if (!finite)
+            out[j] = std::accumulate(values + lo, values + hi, 0.0);
     }
 }
 

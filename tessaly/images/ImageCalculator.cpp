@@ -79,11 +79,17 @@ void ImageCalculator::Program::runTile(const CalculationData& data, int firstLin
     std::vector<double> registers(size_t(blocks->getRegisterCount()) * BlockCells);
     std::vector<double> scratch;
     std::vector<double> filled;
+    std::vector<FocalColumns> focalColumns = blocks->makeFocalColumns();
     const Operand out = blocks->getResult();
     const int columns = result.getColumnCount();
     for (int line = firstLine; line < endLine; ++line)
         for (int column = 0; column < columns; column += BlockCells) {
-            BlockFrame frame{data, registers, scratch, line, column,
+            BlockFrame frame{data,
+                             registers,
+                             scratch,
+                             focalColumns,
+                             line,
+                             column,
                              std::min(BlockCells, columns - column)};
             blocks->run(frame);
             if (out.scalar)

@@ -53,10 +53,13 @@ void expectCalculated(const Case& c, const TestMap& a, const TestMap& b, int pro
             const double expected = null ? Null : double(float(reference));
             const double actual = result.getValue(l, col);
             const double tolerance = 1e-6 * std::max(1.0, std::fabs(expected));
-            const bool same = std::isnan(expected) ? std::isnan(actual)
-                                                   : std::fabs(actual - expected) <= tolerance;
-            const bool cellSame = std::isnan(reference) ? std::isnan(perCell)
-                                                        : std::fabs(perCell - reference) <= tolerance;
+            const bool same = std::isnan(expected)
+                                  ? std::isnan(actual)
+                                  : actual == expected || std::fabs(actual - expected) <= tolerance;
+            const bool cellSame =
+                std::isnan(reference)
+                    ? std::isnan(perCell)
+                    : perCell == reference || std::fabs(perCell - reference) <= tolerance;
             if (!same || !cellSame)
                 ++wrong;
             EXPECT_TRUE(same) << c.formula << " on " << a.lines << " x " << a.columns << " at (" << l
@@ -224,8 +227,9 @@ TEST(ImageCalculatorTest, WindowStatisticsMatchTheReference)
                            "nbprod",   "nbmedian", "nbmode",    "nbvar", "nbstddev"};
     // Height, width, line and column of the centre: centred, off-centre at every edge,
     // one line or column, and far larger than the maps.
-    const int windows[][4] = {{3, 3, 1, 1}, {5, 5, 2, 2}, {1, 4, 0, 3}, {2, 3, 1, 0},
-                              {3, 3, 0, 2}, {4, 1, 3, 0}, {20, 30, 9, 15}, {0, 3, 0, 0}};
+    const int windows[][4] = {{3, 3, 1, 1},    {5, 5, 2, 2},   {1, 4, 0, 3},
+                              {2, 3, 1, 0},    {3, 3, 0, 2},   {4, 1, 3, 0},
+                              {20, 30, 9, 15}, {2, 45, 1, 44}, {0, 3, 0, 0}};
     std::vector<Case> cases;
     for (const auto& w : windows) {
         const std::string window = std::to_string(w[0]) + ", " + std::to_string(w[1]) + ", "
@@ -247,6 +251,22 @@ TEST(ImageCalculatorTest, WindowStatisticsMatchTheReference)
                          return statistic("nbmax", windowCells(b, l, c, 3, 1, 1, 1)) + 0 * a.at(l, c);
                      }});
     expectOnEveryShape(cases);
+}
+
+// Column totals slide from line to line: an infinity that enters a window must leave it
+// without turning the windows below into nulls.
+TEST(ImageCalculatorTest, WindowSumsRecoverAfterAnInfinityLeaves)
+{
+    TestMap a = TestMap::random(12, 7, 11);
+    a.cells[2 * 7 + 3] = INFINITY;
+    a.cells[5 * 7 + 1] = -INFINITY;
+    const TestMap b = TestMap::random(12, 7, 12);
+    for (const std::string name : {"nbsum", "nbaverage", "nbcount"})
+        expectCalculated({name + "(i1, 3, 2, 1, 0)",
+                          [name](const TestMap& m, const TestMap&, int l, int c) {
+                              return statistic(name, windowCells(m, l, c, 3, 2, 1, 0));
+                          }},
+                         a, b);
 }
 
 TEST(ImageCalculatorTest, OneOrSeveralProcessorsGiveTheSameCells)
