@@ -2,6 +2,7 @@
 #define VRK_PLUGINS_IO_TEXTFILEUTILS_H
 
 #include "plugins/prim/FilenamedFunctor.h"
+#include "plugins/prim/FilenamedFunctorUtils.h"
 
 #include <boost/filesystem/path.hpp>
 
@@ -17,8 +18,7 @@ public:
     // "filename", "suffixDigits", "step" and "workdir", in this order.
     // The verifier of a text-file functor: `check` (a check of the verifier adapter)
     // with the extensions of text files.
-    using Check = void (*)(const std::set<std::string>&, VRK::Functor*, const std::string&,
-                           const std::string&, const std::string&);
+    using Check = Prim::FilenamedFunctorUtils::Check;
     static Prim::FilenamedFunctor::Verifier verifierOf(Check check);
     static void addFilePorts(VRK::Functor& functor, const std::string& filenameDescription);
     // The complete path of the file of this pass: numbered by the step when one is bound

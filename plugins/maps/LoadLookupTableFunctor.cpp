@@ -1,9 +1,9 @@
 #include "plugins/maps/LoadLookupTableFunctor.h"
 
 #include "plugins/maps/LookupTableCsvReader.h"
-#include "plugins/maps/MapsFileUtils.h"
 #include "plugins/maps/TableFileEditor.h"
 #include "plugins/maps/TableFileType.h"
+#include "plugins/prim/FilenamedFunctorUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 #include "tessaly/images/LookupTableType.h"
 
@@ -13,11 +13,11 @@ LoadLookupTable::LoadLookupTable()
     : Prim::FilenamedFunctor(
         "LoadLookupTable", "Read a lookup table from a comma-separated file of keys and values.",
         "filename", "workdir",
-        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile,
-                                  TableFileEditor::getExtensions()),
+        Prim::FilenamedFunctorUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile,
+                                                TableFileEditor::getExtensions()),
         "suffixDigits", "step", nullptr)
 {
-    MapsFileUtils::addFilePorts(
+    Prim::FilenamedFunctorUtils::addFilePorts(
         *this, TableFileType::getInstance(),
         "Table file to read: lines of \"key,value\", after an optional header.");
     addOutputPort("table", "Table read from the file.", Tessaly::LookupTableType::getInstance());
@@ -27,7 +27,7 @@ LoadLookupTable::~LoadLookupTable() = default;
 
 void LoadLookupTable::runImpl()
 {
-    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireReadable(file);
     setOutputPortValue<Tessaly::LookupTableData>("table", LookupTableCsvReader::read(file));
 }

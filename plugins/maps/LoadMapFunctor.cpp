@@ -5,7 +5,7 @@
 #include "plugins/maps/MapFileEditor.h"
 #include "plugins/maps/MapFileType.h"
 #include "plugins/maps/MapType.h"
-#include "plugins/maps/MapsFileUtils.h"
+#include "plugins/prim/FilenamedFunctorUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 
 namespace Maps {
@@ -13,12 +13,12 @@ namespace Maps {
 LoadMap::LoadMap()
     : Prim::FilenamedFunctor(
         "LoadMap", "Read a raster map from a file.", "filename", "workdir",
-        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile,
-                                  MapFileEditor::getExtensions()),
+        Prim::FilenamedFunctorUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canReadFile,
+                                                MapFileEditor::getExtensions()),
         "suffixDigits", "step", nullptr)
 {
-    MapsFileUtils::addFilePorts(*this, MapFileType::getInstance(),
-                                "Map file to read, of any raster format.");
+    Prim::FilenamedFunctorUtils::addFilePorts(*this, MapFileType::getInstance(),
+                                              "Map file to read, of any raster format.");
     addOutputPort("map", "Map read from the file.", MapType::getInstance());
 }
 
@@ -26,7 +26,7 @@ LoadMap::~LoadMap() = default;
 
 void LoadMap::runImpl()
 {
-    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireReadable(file);
     setOutputPortValue<MapData>("map", GdalMapReader::read(file));
 }

@@ -1,9 +1,9 @@
 #include "plugins/maps/SaveLookupTableFunctor.h"
 
 #include "plugins/maps/LookupTableCsvWriter.h"
-#include "plugins/maps/MapsFileUtils.h"
 #include "plugins/maps/TableFileEditor.h"
 #include "plugins/maps/TableFileType.h"
+#include "plugins/prim/FilenamedFunctorUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
@@ -14,12 +14,13 @@ SaveLookupTable::SaveLookupTable()
     : Prim::FilenamedFunctor(
         "SaveLookupTable", "Write a lookup table to a comma-separated file of keys and values.",
         "filename", "workdir",
-        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canWriteFile,
-                                  TableFileEditor::getExtensions()),
+        Prim::FilenamedFunctorUtils::verifierOf(
+            &Prim::FilenamedFunctorVerifierAdapter::canWriteFile, TableFileEditor::getExtensions()),
         "suffixDigits", "step", nullptr)
 {
     addInputPort("table", "Table to write.", Tessaly::LookupTableType::getInstance(), false);
-    MapsFileUtils::addFilePorts(*this, TableFileType::getInstance(), "Table file to write.");
+    Prim::FilenamedFunctorUtils::addFilePorts(*this, TableFileType::getInstance(),
+                                              "Table file to write.");
 }
 
 SaveLookupTable::~SaveLookupTable() = default;
@@ -28,7 +29,7 @@ void SaveLookupTable::runImpl()
 {
     const std::shared_ptr<const Tessaly::LookupTable>& table =
         getInputPortValue<Tessaly::LookupTableData>("table");
-    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireWritable(file);
     LookupTableCsvWriter::write(*table, file);
 }

@@ -4,7 +4,7 @@
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapFileType.h"
 #include "plugins/maps/MapType.h"
-#include "plugins/maps/MapsFileUtils.h"
+#include "plugins/prim/FilenamedFunctorUtils.h"
 #include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
 
 namespace Maps {
@@ -12,12 +12,12 @@ namespace Maps {
 SaveMap::SaveMap()
     : Prim::FilenamedFunctor(
         "SaveMap", "Write a raster map to a GeoTIFF or an ASCII grid file.", "filename", "workdir",
-        MapsFileUtils::verifierOf(&Prim::FilenamedFunctorVerifierAdapter::canWriteFile,
-                                  GdalMapWriter::getExtensions()),
+        Prim::FilenamedFunctorUtils::verifierOf(
+            &Prim::FilenamedFunctorVerifierAdapter::canWriteFile, GdalMapWriter::getExtensions()),
         "suffixDigits", "step", nullptr)
 {
     addInputPort("map", "Map to write.", MapType::getInstance(), false);
-    MapsFileUtils::addFilePorts(
+    Prim::FilenamedFunctorUtils::addFilePorts(
         *this, MapFileType::getInstance(),
         "Map file to write: GeoTIFF (\".tif\", \".tiff\") or ASCII grid (\".asc\").");
 }
@@ -27,7 +27,7 @@ SaveMap::~SaveMap() = default;
 void SaveMap::runImpl()
 {
     const std::shared_ptr<const Tessaly::Raster>& map = getInputPortValue<MapData>("map");
-    const boost::filesystem::path file = MapsFileUtils::getFile(*this);
+    const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireWritable(file);
     GdalMapWriter::write(*map, file);
 }
