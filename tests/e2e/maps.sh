@@ -109,6 +109,8 @@ quarter := CalculateCategoricalMap expression = [ i1 / v1 ] {
     NumberValue value = 4 valueNumber = 1;
 }
 SaveMap map = quarter.result filename = "quarter.tif";
+unchanged := CalculateMap2 image = b.map;
+SaveMap map = unchanged.result filename = "default.asc";
 SCRIPT
     printf '1,10\n2,20\n3,35.5\n4,-4\n' > "$work/weights.csv"
     run_ok "formulas" "$scheduler"
@@ -119,6 +121,7 @@ SCRIPT
     gdal_translate -q -of AAIGrid "$work/quarter.tif" "$work/quarter.asc"
     expect_cells "categorical ($scheduler)" quarter.asc quarter a.asc
     gdalinfo "$work/quarter.tif" | grep -q "Type=Int32" || fail "categorical: not Int32"
+    expect_cells "default formula ($scheduler)" default.asc plus0 b.asc
 
     # A map carried from pass to pass by MuxMap, one file per step.
     fresh <<'SCRIPT'

@@ -1,0 +1,127 @@
+#include "plugins/maps/CalculateMap2Functor.h"
+#include "plugins/maps/CalculateMapFunctor.h"
+#include "plugins/maps/MapData.h"
+#include "plugins/maps/NumberMapFunctor.h"
+#include "plugins/prim/DoubleFunctor.h"
+#include "plugins/prim/NameValueFunctor.h"
+
+#include "base/error/Exception.h"
+#include "base/script/Script.h"
+#include "base/script/text/DefaultScriptReader.h"
+#include "base/task/Task.h"
+#include "tests/support/PrimRegistration.h"
+#include "tests/support/ScriptText.h"
+
+#include <boost/filesystem.hpp>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <mutex>
+
+extern "C" void registerMapsPlugin(VRK::Plugin& plugin);
+
+namespace {
+
+namespace fs = boost::filesystem;
+
+class MapFunctors : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        VRK::Testing::registerPrimOnce();
+        static std::once_flag once;
+        std::call_once(once, [] {
+            VRK::Plugin plugin("Maps", "", VRK::FactoryFarmManager::Instance());
+            registerMapsPlugin(plugin);
+        });
+        folder_ = fs::temp_directory_path() / fs::unique_path("vrk_map_functors_%%%%%%%%");
+        fs::create_directories(folder_);
+        std::ofstream((folder_ / "a.asc").string())
+            << "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2\n3 4\n";
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    // `text` with "DIR" standing for the test's folder.
+    std::shared_ptr<VRK::Script> read(std::string text)
+    {
+        for (size_t at = text.find("DIR"); at != std::string::npos; at = text.find("DIR"))
+            text.replace(at, 3, folder_.string());
+        return VRK::Testing::readScriptText<VRK::DefaultScriptReader>(text, "model.vrk");
+    }
+    static void run(VRK::Script& script)
+    {
+        VRK::Task task;
+        script.run(task, "SequentialFunctorScheduler");
+    }
+    static std::shared_ptr<const Tessaly::Raster> map(const VRK::Script& script,
+                                                      const std::string& alias,
+                                                      const std::string& port)
+    {
+        const VRK::Functor* functor = script.findFunctorByAlias(alias);
+        EXPECT_NE(functor, nullptr) << alias;
+        return dynamic_cast<const Maps::MapData&>(functor->getOutputPort(port)->getData())
+            .getValue();
+    }
+
+    fs::path folder_;
+};
+
+} // namespace
+
+TEST_F(MapFunctors, BannersShowTheNumberOrName)
+{
+    auto script = read("a := LoadMap filename = \"DIR/a.asc\";"
+                       "t := LoadLookupTable filename = \"DIR/t.csv\";"
+                       "c := CalculateMap {"
+                       "  m := NumberMap map = a.map mapNumber = 2;"
+                       "  n := NameMap map = a.map mapName = \"landuse\";"
+                       "  u := NumberLookupTable table = t.table tableNumber = 1;"
+                       "  v := NameLookupTable table = t.table tableName = \"weights\";"
+                       "}");
+    EXPECT_EQ(script->findFunctorByAlias("m")->getBanner(), "Map #2");
+    EXPECT_EQ(script->findFunctorByAlias("n")->getBanner(), "Name \"landuse\"");
+    EXPECT_EQ(script->findFunctorByAlias("u")->getBanner(), "Table #1");
+    EXPECT_EQ(script->findFunctorByAlias("v")->getBanner(), "Name \"weights\"");
+}
+
+// A map is shared from port to port and pass to pass: MuxMap hands on the raster it is
+// given, and a calculation's result is a raster of its own.
+TEST_F(MapFunctors, MapsArePassedOnNotCopied)
+{
+    auto script = read("a := LoadMap filename = \"DIR/a.asc\";"
+                       "loop := For firstIterationStep = 1 lastIterationStep = 3 {"
+                       "  state := MuxMap initial = a.map feedback = state.map;"
+                       "}"
+                       "c := CalculateMap2 expression = [ #image * 2 ] image = state.map;");
+    run(*script);
+    const auto loaded = map(*script, "a", "map");
+    EXPECT_EQ(map(*script, "state", "map"), loaded);
+    const auto doubled = map(*script, "c", "result");
+    EXPECT_NE(doubled, loaded);
+    EXPECT_EQ(doubled->getValue(1, 1), 8);
+    EXPECT_EQ(doubled->getCellType(), Tessaly::CellType::Float32);
+}
+
+TEST_F(MapFunctors, CalculationsHoldOnlyRegistratorsAndRefuseAClashWithTheirPort)
+{
+    Maps::CalculateMap calculation;
+    Maps::NumberMap numberMap;
+    Prim::NameValue nameValue;
+    Prim::Double constant;
+    EXPECT_TRUE(calculation.isCompatible(&numberMap));
+    EXPECT_TRUE(calculation.isCompatible(&nameValue));
+    EXPECT_FALSE(calculation.isCompatible(&constant));
+
+    auto script = read("a := LoadMap filename = \"DIR/a.asc\";"
+                       "c := CalculateMap2 image = a.map {"
+                       "  NameMap map = a.map mapName = \"image\";"
+                       "}");
+    try {
+        run(*script);
+        ADD_FAILURE() << "two maps named image were taken";
+    } catch (const VRK::Exception& error) {
+        EXPECT_EQ(error.getMessage(),
+                  "The key \"image\" is already in use by another hook functor.");
+    }
+}
