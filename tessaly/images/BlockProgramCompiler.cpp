@@ -38,6 +38,14 @@ template <class Op> std::pair<std::string, BinaryMaker> binary()
             }};
 }
 
+template <class Op>
+std::pair<std::string, BlockProgramCompiler::SelectMaker> selectBy()
+{
+    return {Op::Name, [](const std::array<Operand, 4>& operands, int result) -> BlockStepPtr {
+                return std::make_unique<QuaternaryStep<Ops::SelectBy<Op>>>(operands, result);
+            }};
+}
+
 template <class Op> std::pair<std::string, TableLookupStep::Lookup> lookup()
 {
     return {Op::Name, Op::Lookup};
@@ -65,6 +73,17 @@ const std::map<std::string, BinaryMaker>& binaryMakers()
         binary<Minus>(),       binary<Times>(),            binary<Divide>(),
         binary<Mod>(),         binary<Pow>(),              binary<Maximum>(),
         binary<Minimum>()};
+    return makers;
+}
+
+// The conditions that an if takes in the same pass as its select.
+const std::map<std::string, BlockProgramCompiler::SelectMaker>& selectMakers()
+{
+    using namespace Ops;
+    static const std::map<std::string, BlockProgramCompiler::SelectMaker> makers = {
+        selectBy<BooleanOr>(),   selectBy<BooleanAnd>(),      selectBy<Equal>(),
+        selectBy<NotEqual>(),    selectBy<LessThan>(),        selectBy<LessThanEqual>(),
+        selectBy<GreaterThan>(), selectBy<GreaterThanEqual>()};
     return makers;
 }
 
@@ -200,6 +219,9 @@ Operand BlockProgramCompiler::compileSelect(const ImageExpression& node)
     for (size_t i = 1; i < node.getChildCount(); ++i)
         if (anyInTree(node.getChild(i), abortsOrDraws))
             return fallBack(node);
+    const auto fused = selectMakers().find(node.getChild(0).getName());
+    if (node.getChildCount() == 3 && fused != selectMakers().end())
+        return compileSelectBy(node, fused->second);
     std::array<Operand, 3> operands;
     for (size_t i = 0; i < node.getChildCount(); ++i)
         operands[i] = compileNode(node.getChild(i));
@@ -211,6 +233,18 @@ Operand BlockProgramCompiler::compileSelect(const ImageExpression& node)
     else
         program_->addStep(
             std::make_unique<BinaryStep<Ops::CatchSelect>>(operands[0], operands[1], slot));
+    return result;
+}
+
+Operand BlockProgramCompiler::compileSelectBy(const ImageExpression& node, SelectMaker make)
+{
+    const ImageExpression& condition = node.getChild(0);
+    const std::array<Operand, 4> operands = {
+        compileNode(condition.getChild(0)), compileNode(condition.getChild(1)),
+        compileNode(node.getChild(1)), compileNode(node.getChild(2))};
+    int slot;
+    const Operand result = newRegister(slot);
+    program_->addStep(make(operands, slot));
     return result;
 }
 

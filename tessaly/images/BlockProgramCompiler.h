@@ -3,6 +3,7 @@
 
 #include "tessaly/images/BlockProgram.h"
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -12,12 +13,16 @@ class TopLevelImageExpression;
 
 // Turns a formula's tree into a BlockProgram. A subtree that needs no cell becomes a
 // scalar; `if` and `?` become selects over both branches when neither can abort or
-// draw random numbers (so that working out the branch not taken changes nothing);
+// draw random numbers (so that working out the branch not taken changes nothing), an
+// `if` on a comparison or logical operator in the same pass as its condition;
 // window statistics over a window fixed for the whole map become focal steps; every
 // other node without a block form is evaluated cell by cell over the block.
 // The program refers to the tree's nodes, which must outlive it.
 class BlockProgramCompiler {
 public:
+    // Makes the step of an if whose condition is worked out in the same pass.
+    using SelectMaker = BlockStepPtr (*)(const std::array<Operand, 4>&, int);
+
     static std::unique_ptr<BlockProgram> compile(const TopLevelImageExpression& formula);
 
 private:
@@ -26,6 +31,7 @@ private:
     Operand compileNode(const ImageExpression& node);
     Operand compileCellNode(const ImageExpression& node);
     Operand compileSelect(const ImageExpression& node);
+    Operand compileSelectBy(const ImageExpression& node, SelectMaker make);
     Operand compileWindow(const ImageExpression& node);
     Operand fallBack(const ImageExpression& node);
     int loadImage(int image);

@@ -64,7 +64,9 @@ void ImageCalculator::Program::checkInputs(const ImageCalculationInputs& inputs)
             "The expression \"" + formula.toString()
             + "\" names no map, so there is no grid to calculate it on.");
     const Grid& grid = inputs.images[0]->getGrid();
-    for (size_t i = 1; i < inputs.images.size(); ++i)
+    // Images past the dictionary's are not read, so their grid does not matter.
+    const size_t named = std::min(inputs.images.size(), size_t(names.getCount(EntityKind::Image)));
+    for (size_t i = 1; i < named; ++i)
         if (inputs.images[i] && !inputs.images[i]->getGrid().isSameGridAs(grid))
             VRK::ExceptionUtils::raise<VRK::IllegalDataException>(
                 "The map " + names.getSpelling(EntityKind::Image, int(i) + 1) + " of the expression \""

@@ -97,6 +97,11 @@ TEST(ImageCalculatorTest, LocalOperatorsAndFunctionsMatchTheReference)
              const double x = a.at(l, c);
              return std::isnan(x) ? Null : x > 0 ? x * 2 + b.at(l, c) : 0;
          }},
+        {"if 1 >= i2 or i1 then 2 else i2",
+         [](M a, M b, int l, int c) {
+             const double x = a.at(l, c), y = b.at(l, c);
+             return anyNull(x, y) ? Null : 1 >= y || x != 0 ? 2 : y;
+         }},
         {"i1 - i2 / 4 + v1 ^ 2 - 2 * 3",
          [](M a, M b, int l, int c) { return a.at(l, c) - b.at(l, c) / 4 + 9 - 6; }},
         {"i1 / i2 + i1 % i2 * 100",
