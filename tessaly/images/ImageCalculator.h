@@ -27,6 +27,7 @@ struct ImageCalculationInputs {
 // calculation; whatever it throws ends the calculation.
 class ImageCalculator {
 public:
+    // The calculator refers to the formula's tree: the formula must outlive it.
     explicit ImageCalculator(const TopLevelImageExpression& compiledFormula);
     ~ImageCalculator();
 
