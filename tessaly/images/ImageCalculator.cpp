@@ -7,6 +7,7 @@
 #include "tessaly/images/TopLevelImageExpression.h"
 
 #include <tbb/blocked_range.h>
+#include <tbb/global_control.h>
 #include <tbb/parallel_for.h>
 #include <tbb/task_arena.h>
 
@@ -116,7 +117,10 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
     const int lines = result.getLineCount();
     const int tileLines = std::max(1, TileCells / std::max(1, result.getColumnCount()));
     const int tiles = (lines + tileLines - 1) / tileLines;
-    tbb::task_arena arena(std::max(1, processors));
+    // Never more threads than the process allows: asking for more only draws a warning.
+    const int allowed =
+        int(tbb::global_control::active_value(tbb::global_control::max_allowed_parallelism));
+    tbb::task_arena arena(std::max(1, std::min(processors, allowed)));
     try {
         arena.execute([&] {
             tbb::parallel_for(tbb::blocked_range<int>(0, tiles, 1),

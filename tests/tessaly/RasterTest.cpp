@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -57,6 +58,17 @@ TEST(RasterTest, FloatCellsWithoutNoDataKeepNanAndFloat32NoDataMatchesExactly)
     EXPECT_EQ(lowest.getValue(0, 1), static_cast<double>(0.1f));
     lowest.clearNoData();
     EXPECT_FALSE(std::isnan(lowest.getValue(0, 0)));
+}
+
+// Large rasters reuse the memory of freed ones: a new one must still start at 0.
+TEST(RasterTest, ANewLargeRasterStartsAtZeroAfterAFreedOne)
+{
+    for (int round = 0; round < 2; ++round) {
+        Raster raster(grid(1100, 1000), CellType::Float32);
+        float* cells = raster.cells<float>();
+        EXPECT_EQ(std::count(cells, cells + 1100 * 1000, 0.0f), 1100 * 1000);
+        std::fill(cells, cells + 1100 * 1000, 7.0f);
+    }
 }
 
 TEST(RasterTest, GridsMeetOnSizeAndTransformNotOnProjection)
