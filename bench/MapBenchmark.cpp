@@ -146,15 +146,18 @@ int main(int argc, char** argv)
     std::cout << std::left << std::setw(44) << "if formula, all processors / 1 thread"
               << std::right << std::setw(10) << std::setprecision(2)
               << (oneThread > 0 ? all / oneThread : 0) << "\n";
-    if (!peers.empty())
+    if (!peers.empty()) {
+        std::cout << "\nPeers in this run, where(a > 0, a * 2 + b, 0) on arrays of the same size:\n";
         for (const auto& peer : runPeers(peers)) {
-            printRate("where(a > 0, a * 2 + b, 0), " + peer.first, peer.second);
+            printRate(peer.first, peer.second);
             const bool threaded = peer.first.find("all") != std::string::npos;
             std::cout << std::left << std::setw(44)
-                      << "  if formula (" + std::string(threaded ? "all" : "1 thread") + ") / this"
+                      << std::string("  if formula (") + (threaded ? "all processors" : "1 thread")
+                             + ") / " + peer.first.substr(0, peer.first.find(','))
                       << std::right << std::setw(10) << std::setprecision(2)
                       << (threaded ? all : oneThread) / peer.second << "\n";
         }
+    }
     benchmark::Shutdown();
     return 0;
 }
