@@ -72,10 +72,7 @@ const char* const IfFormula = "if i1 > 0 then i1 * 2 + i2 else 0";
 
 void ifOneThread(benchmark::State& state) { calculate(state, IfFormula, 1); }
 void ifAllProcessors(benchmark::State& state) { calculate(state, IfFormula, allProcessors()); }
-void nbsumOneThread(benchmark::State& state)
-{
-    calculate(state, "nbsum(i1, 5, 5, 2, 2)", 1);
-}
+void nbsumOneThread(benchmark::State& state) { calculate(state, "nbsum(i1, 5, 5, 2, 2)", 1); }
 
 BENCHMARK(ifOneThread)->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5);
 BENCHMARK(ifAllProcessors)->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5);
@@ -92,8 +89,9 @@ std::map<std::string, double> runPeers(const std::string& script)
 {
     std::map<std::string, double> rates;
     const char* python = getenv("PYTHON");
-    const std::string interpreter =
-        python ? python : access("/usr/bin/python3", X_OK) == 0 ? "/usr/bin/python3" : "python3";
+    const std::string interpreter = python                                  ? python
+                                    : access("/usr/bin/python3", X_OK) == 0 ? "/usr/bin/python3"
+                                                                            : "python3";
     FILE* pipe = popen((interpreter + " '" + script + "'").c_str(), "r");
     if (!pipe) {
         std::cout << "note: the peers' script could not be started.\n";
@@ -143,11 +141,12 @@ int main(int argc, char** argv)
     printRate("if formula, 1 thread", oneThread);
     printRate("if formula, " + std::to_string(allProcessors()) + " processors", all);
     printRate("nbsum(i1, 5, 5, 2, 2), 1 thread", cellsPerSecond(reporter, "nbsumOneThread"));
-    std::cout << std::left << std::setw(44) << "if formula, all processors / 1 thread"
-              << std::right << std::setw(10) << std::setprecision(2)
-              << (oneThread > 0 ? all / oneThread : 0) << "\n";
+    std::cout << std::left << std::setw(44) << "if formula, all processors / 1 thread" << std::right
+              << std::setw(10) << std::setprecision(2) << (oneThread > 0 ? all / oneThread : 0)
+              << "\n";
     if (!peers.empty()) {
-        std::cout << "\nPeers in this run, where(a > 0, a * 2 + b, 0) on arrays of the same size:\n";
+        std::cout
+            << "\nPeers in this run, where(a > 0, a * 2 + b, 0) on arrays of the same size:\n";
         for (const auto& peer : runPeers(peers)) {
             printRate(peer.first, peer.second);
             const bool threaded = peer.first.find("all") != std::string::npos;

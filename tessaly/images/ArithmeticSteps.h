@@ -63,14 +63,16 @@ std::array<Quaternary, sizeof...(I)> quaternaryKernels(std::index_sequence<I...>
     return {{quaternary<Op, (I & 8) != 0, (I & 4) != 0, (I & 2) != 0, (I & 1) != 0>...}};
 }
 
-template <class Op> Binary pickBinary(bool leftScalar, bool rightScalar)
+template <class Op>
+Binary pickBinary(bool leftScalar, bool rightScalar)
 {
     static const Binary kernels[4] = {binary<Op, false, false>, binary<Op, false, true>,
                                       binary<Op, true, false>, binary<Op, true, true>};
     return kernels[leftScalar * 2 + rightScalar];
 }
 
-template <class Op> Ternary pickTernary(bool aScalar, bool bScalar, bool cScalar)
+template <class Op>
+Ternary pickTernary(bool aScalar, bool bScalar, bool cScalar)
 {
     static const Ternary kernels[8] = {
         ternary<Op, false, false, false>, ternary<Op, false, false, true>,

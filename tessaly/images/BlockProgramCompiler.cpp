@@ -24,14 +24,16 @@ namespace {
 using UnaryMaker = BlockStepPtr (*)(Operand, int);
 using BinaryMaker = BlockStepPtr (*)(Operand, Operand, int);
 
-template <class Op> std::pair<std::string, UnaryMaker> unary()
+template <class Op>
+std::pair<std::string, UnaryMaker> unary()
 {
     return {Op::Name, [](Operand operand, int result) -> BlockStepPtr {
                 return std::make_unique<UnaryStep<Op>>(operand, result);
             }};
 }
 
-template <class Op> std::pair<std::string, BinaryMaker> binary()
+template <class Op>
+std::pair<std::string, BinaryMaker> binary()
 {
     return {Op::Name, [](Operand left, Operand right, int result) -> BlockStepPtr {
                 return std::make_unique<BinaryStep<Op>>(left, right, result);
@@ -46,7 +48,8 @@ std::pair<std::string, BlockProgramCompiler::SelectMaker> selectBy()
             }};
 }
 
-template <class Op> std::pair<std::string, TableLookupStep::Lookup> lookup()
+template <class Op>
+std::pair<std::string, TableLookupStep::Lookup> lookup()
 {
     return {Op::Name, Op::Lookup};
 }
@@ -55,11 +58,10 @@ const std::map<std::string, UnaryMaker>& unaryMakers()
 {
     using namespace Ops;
     static const std::map<std::string, UnaryMaker> makers = {
-        unary<UnaryMinus>(), unary<BooleanNot>(), unary<SquaredRoot>(), unary<Abs>(),
-        unary<Exp>(),        unary<Ceil>(),       unary<Floor>(),       unary<Round>(),
-        unary<Sin>(),        unary<Cos>(),        unary<Tan>(),         unary<Asin>(),
-        unary<Acos>(),       unary<Atan>(),       unary<Ln>(),          unary<Log>(),
-        unary<Signal>()};
+        unary<UnaryMinus>(), unary<BooleanNot>(), unary<SquaredRoot>(), unary<Abs>(),  unary<Exp>(),
+        unary<Ceil>(),       unary<Floor>(),      unary<Round>(),       unary<Sin>(),  unary<Cos>(),
+        unary<Tan>(),        unary<Asin>(),       unary<Acos>(),        unary<Atan>(), unary<Ln>(),
+        unary<Log>(),        unary<Signal>()};
     return makers;
 }
 
@@ -67,12 +69,14 @@ const std::map<std::string, BinaryMaker>& binaryMakers()
 {
     using namespace Ops;
     static const std::map<std::string, BinaryMaker> makers = {
-        binary<BooleanOr>(),   binary<BooleanAnd>(),       binary<Equal>(),
-        binary<NotEqual>(),    binary<LessThan>(),         binary<LessThanEqual>(),
-        binary<GreaterThan>(), binary<GreaterThanEqual>(), binary<Plus>(),
-        binary<Minus>(),       binary<Times>(),            binary<Divide>(),
-        binary<Mod>(),         binary<Pow>(),              binary<Maximum>(),
-        binary<Minimum>()};
+        binary<BooleanOr>(),   binary<BooleanAnd>(),
+        binary<Equal>(),       binary<NotEqual>(),
+        binary<LessThan>(),    binary<LessThanEqual>(),
+        binary<GreaterThan>(), binary<GreaterThanEqual>(),
+        binary<Plus>(),        binary<Minus>(),
+        binary<Times>(),       binary<Divide>(),
+        binary<Mod>(),         binary<Pow>(),
+        binary<Maximum>(),     binary<Minimum>()};
     return makers;
 }
 
@@ -132,9 +136,8 @@ bool abortsOrDraws(const ImageExpression& node)
 // Abort and rand count as varying: neither may be worked out once ahead of the cells.
 bool variesByCell(const ImageExpression& node)
 {
-    static const std::set<std::string> cellNodes = {"ImageValue", "IsNull", "ImageValue2",
-                                                    "Line",       "Column", "Rand",
-                                                    "Abort"};
+    static const std::set<std::string> cellNodes = {"ImageValue", "IsNull", "ImageValue2", "Line",
+                                                    "Column",     "Rand",   "Abort"};
     return cellNodes.count(node.getName()) != 0
            || dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node) != nullptr;
 }
@@ -161,7 +164,8 @@ Operand BlockProgramCompiler::compileNode(const ImageExpression& node)
     if (anyInTree(node, variesByCell))
         return compileCellNode(node);
     if (isNamed(node, "Value"))
-        return {true, program_->addConstant(static_cast<const _ImageExpression::Value&>(node).getValue())};
+        return {true, program_->addConstant(
+                          static_cast<const _ImageExpression::Value&>(node).getValue())};
     return {true, program_->addScalar(node)};
 }
 
@@ -228,8 +232,8 @@ Operand BlockProgramCompiler::compileSelect(const ImageExpression& node)
     int slot;
     const Operand result = newRegister(slot);
     if (node.getChildCount() == 3)
-        program_->addStep(
-            std::make_unique<TernaryStep<Ops::Select>>(operands[0], operands[1], operands[2], slot));
+        program_->addStep(std::make_unique<TernaryStep<Ops::Select>>(operands[0], operands[1],
+                                                                     operands[2], slot));
     else
         program_->addStep(
             std::make_unique<BinaryStep<Ops::CatchSelect>>(operands[0], operands[1], slot));

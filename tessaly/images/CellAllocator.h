@@ -15,23 +15,40 @@ namespace Tessaly {
 void* allocateCells(std::size_t bytes);
 void freeCells(void* cells, std::size_t bytes);
 
-template <class T> struct CellAllocator {
+template <class T>
+struct CellAllocator {
     using value_type = T;
 
     CellAllocator() = default;
-    template <class U> CellAllocator(const CellAllocator<U>&) {}
+    template <class U>
+    CellAllocator(const CellAllocator<U>&)
+    {
+    }
 
     T* allocate(std::size_t n) { return static_cast<T*>(allocateCells(n * sizeof(T))); }
     void deallocate(T* p, std::size_t n) { freeCells(p, n * sizeof(T)); }
 
-    template <class U> void construct(U* p) { ::new (static_cast<void*>(p)) U; }
-    template <class U, class... A> void construct(U* p, A&&... args)
+    template <class U>
+    void construct(U* p)
+    {
+        ::new (static_cast<void*>(p)) U;
+    }
+    template <class U, class... A>
+    void construct(U* p, A&&... args)
     {
         ::new (static_cast<void*>(p)) U(std::forward<A>(args)...);
     }
 
-    template <class U> bool operator==(const CellAllocator<U>&) const { return true; }
-    template <class U> bool operator!=(const CellAllocator<U>&) const { return false; }
+    template <class U>
+    bool operator==(const CellAllocator<U>&) const
+    {
+        return true;
+    }
+    template <class U>
+    bool operator!=(const CellAllocator<U>&) const
+    {
+        return false;
+    }
 };
 
 } // namespace Tessaly

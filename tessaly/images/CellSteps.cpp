@@ -11,7 +11,10 @@ namespace Tessaly {
 namespace {
 
 // A scalar operand stands for every cell of the block.
-double at(const double* operand, bool scalar, int cell) { return scalar ? operand[0] : operand[cell]; }
+double at(const double* operand, bool scalar, int cell)
+{
+    return scalar ? operand[0] : operand[cell];
+}
 
 } // namespace
 

@@ -10,7 +10,7 @@ namespace Tessaly {
 void FallbackStep::run(BlockFrame& frame) const
 {
     std::vector<double> cellValues(size_t(imageCount_), std::numeric_limits<double>::quiet_NaN());
-    EvaluationContext context{cellValues,       frame.data.values, frame.data.tables,
+    EvaluationContext context{cellValues,        frame.data.values,  frame.data.tables,
                               frame.data.images, double(frame.line), 0};
     double* out = frame.registerAt(result_);
     for (int i = 0; i < frame.count; ++i) {

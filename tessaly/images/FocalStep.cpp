@@ -16,7 +16,8 @@ namespace {
 constexpr double Null = std::numeric_limits<double>::quiet_NaN();
 
 // A null extreme takes any value; a null value never wins.
-template <bool Min> double extreme(double current, double value)
+template <bool Min>
+double extreme(double current, double value)
 {
     const bool better = Min ? value < current : value > current;
     return better || current != current ? value : current;
@@ -111,7 +112,8 @@ bool FocalStep::findSpan(const BlockFrame& frame, Span& span) const
     const double lastLine = std::min(top + window[0], double(raster.getLineCount())) - 1;
     const double left = frame.column - window[3];
     const double start = std::max(left, 0.0);
-    const double end = std::min(left + frame.count - 1 + window[1], double(raster.getColumnCount()));
+    const double end =
+        std::min(left + frame.count - 1 + window[1], double(raster.getColumnCount()));
     if (window[0] < 1 || window[1] < 1 || firstLine > lastLine || end <= start)
         return false;
     span = {int(firstLine), int(lastLine), int(start), int(end - start),

@@ -6,8 +6,7 @@ namespace Tessaly {
 
 bool Grid::isSameGridAs(const Grid& other) const
 {
-    return lines == other.lines && columns == other.columns
-           && geoTransform == other.geoTransform;
+    return lines == other.lines && columns == other.columns && geoTransform == other.geoTransform;
 }
 
 std::string Grid::describe() const

@@ -70,8 +70,8 @@ void ImageCalculator::Program::checkInputs(const ImageCalculationInputs& inputs)
     for (size_t i = 1; i < named; ++i)
         if (inputs.images[i] && !inputs.images[i]->getGrid().isSameGridAs(grid))
             VRK::ExceptionUtils::raise<VRK::IllegalDataException>(
-                "The map " + names.getSpelling(EntityKind::Image, int(i) + 1) + " of the expression \""
-                + formula.toString() + "\" lies on a grid of "
+                "The map " + names.getSpelling(EntityKind::Image, int(i) + 1)
+                + " of the expression \"" + formula.toString() + "\" lies on a grid of "
                 + inputs.images[i]->getGrid().describe() + ", not on the grid of "
                 + names.getSpelling(EntityKind::Image, 1) + ", " + grid.describe() + ".");
 }
@@ -123,16 +123,15 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
     tbb::task_arena arena(std::max(1, std::min(processors, allowed)));
     try {
         arena.execute([&] {
-            tbb::parallel_for(tbb::blocked_range<int>(0, tiles, 1),
-                              [&](const tbb::blocked_range<int>& range) {
-                                  for (int tile = range.begin(); tile < range.end(); ++tile) {
-                                      if (checkpoint)
-                                          checkpoint();
-                                      program_->runTile(data, tile * tileLines,
-                                                        std::min(lines, (tile + 1) * tileLines),
-                                                        result);
-                                  }
-                              });
+            tbb::parallel_for(
+                tbb::blocked_range<int>(0, tiles, 1), [&](const tbb::blocked_range<int>& range) {
+                    for (int tile = range.begin(); tile < range.end(); ++tile) {
+                        if (checkpoint)
+                            checkpoint();
+                        program_->runTile(data, tile * tileLines,
+                                          std::min(lines, (tile + 1) * tileLines), result);
+                    }
+                });
         });
     } catch (const AbortRequest&) {
         program_->formula.raiseAborted();

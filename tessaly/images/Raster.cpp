@@ -14,14 +14,18 @@ namespace {
 
 const double Null = std::numeric_limits<double>::quiet_NaN();
 
-template <class T> struct CellTypeOf;
-template <> struct CellTypeOf<std::int32_t> {
+template <class T>
+struct CellTypeOf;
+template <>
+struct CellTypeOf<std::int32_t> {
     static constexpr CellType value = CellType::Int32;
 };
-template <> struct CellTypeOf<float> {
+template <>
+struct CellTypeOf<float> {
     static constexpr CellType value = CellType::Float32;
 };
-template <> struct CellTypeOf<double> {
+template <>
+struct CellTypeOf<double> {
     static constexpr CellType value = CellType::Float64;
 };
 
@@ -115,13 +119,15 @@ void Raster::clearNoData()
     noData_ = 0;
 }
 
-template <class T> T* Raster::cells()
+template <class T>
+T* Raster::cells()
 {
     assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
     return reinterpret_cast<T*>(cells_.data());
 }
 
-template <class T> const T* Raster::cells() const
+template <class T>
+const T* Raster::cells() const
 {
     assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
     return reinterpret_cast<const T*>(cells_.data());

@@ -99,8 +99,8 @@ inline double evaluateCell(const TopLevelImageExpression& formula,
         cellValues.push_back(raster->getValue(line, column));
         images.push_back(raster);
     }
-    return formula.evaluate({cellValues, inputs.values, inputs.tables, images, double(line),
-                             double(column)});
+    return formula.evaluate(
+        {cellValues, inputs.values, inputs.tables, images, double(line), double(column)});
 }
 
 // The window of a neighbourhood function, straight from its definition: the cells of
@@ -112,7 +112,8 @@ inline std::vector<std::pair<int, double>> windowCells(const TestMap& map, int l
 {
     std::vector<std::pair<int, double>> cells;
     // The loops skip the lines and columns that lie outside the map, which read as null.
-    for (int l = std::max(0, centreLine - line); l < std::min(height, map.lines + centreLine - line); ++l)
+    for (int l = std::max(0, centreLine - line);
+         l < std::min(height, map.lines + centreLine - line); ++l)
         for (int c = std::max(0, centreColumn - column);
              c < std::min(width, map.columns + centreColumn - column); ++c) {
             const double value = map.at(line - centreLine + l, column - centreColumn + c);

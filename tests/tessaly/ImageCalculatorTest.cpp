@@ -1,6 +1,6 @@
+#include "tessaly/images/ImageCalculator.h"
 #include "base/error/ExecutionAbortedException.h"
 #include "base/error/IllegalDataException.h"
-#include "tessaly/images/ImageCalculator.h"
 #include "tests/tessaly/CalculatorReference.h"
 
 #include <gtest/gtest.h>
@@ -41,7 +41,8 @@ void expectCalculated(const Case& c, const TestMap& a, const TestMap& b, int pro
     TestInputs named{{{"i1", &i1}, {"i2", &i2}}, {{"v1", 3}}, {{"t1", &table()}}};
     const auto formula = compiledFormula(c.formula);
     const ImageCalculationInputs inputs = named.forFormula(formula->getDictionary());
-    const Raster result = ImageCalculator(*formula).calculate(inputs, CellType::Float32, processors, {});
+    const Raster result =
+        ImageCalculator(*formula).calculate(inputs, CellType::Float32, processors, {});
     ASSERT_TRUE(result.getGrid().isSameGridAs(i1.getGrid()));
     int wrong = 0;
     for (int l = 0; l < a.lines; ++l)
@@ -62,8 +63,8 @@ void expectCalculated(const Case& c, const TestMap& a, const TestMap& b, int pro
                     : perCell == reference || std::fabs(perCell - reference) <= tolerance;
             if (!same || !cellSame)
                 ++wrong;
-            EXPECT_TRUE(same) << c.formula << " on " << a.lines << " x " << a.columns << " at (" << l
-                              << ", " << col << "): " << actual << ", expected " << expected;
+            EXPECT_TRUE(same) << c.formula << " on " << a.lines << " x " << a.columns << " at ("
+                              << l << ", " << col << "): " << actual << ", expected " << expected;
             EXPECT_TRUE(cellSame) << c.formula << " cell by cell at (" << l << ", " << col
                                   << "): " << perCell << ", expected " << reference;
         }
@@ -71,9 +72,8 @@ void expectCalculated(const Case& c, const TestMap& a, const TestMap& b, int pro
 
 const std::vector<std::pair<int, int>>& shapes()
 {
-    static const std::vector<std::pair<int, int>> list = {{1, 1},  {1, 17},  {17, 1},
-                                                          {6, 9},  {3, 255}, {2, 257},
-                                                          {2, 512}, {1, 513}};
+    static const std::vector<std::pair<int, int>> list = {{1, 1},   {1, 17},  {17, 1},  {6, 9},
+                                                          {3, 255}, {2, 257}, {2, 512}, {1, 513}};
     return list;
 }
 
@@ -125,7 +125,8 @@ TEST(ImageCalculatorTest, LocalOperatorsAndFunctionsMatchTheReference)
         {"(i1 and i2) + 2 * (i1 or 0) + 4 * not i2 + 8 * !i1",
          [](M a, M b, int l, int c) {
              const double x = a.at(l, c), y = b.at(l, c);
-             return anyNull(x, y) ? Null : (x != 0 && y != 0) + 2 * (x != 0) + 4 * (y == 0) + 8 * (x == 0);
+             return anyNull(x, y) ? Null
+                                  : (x != 0 && y != 0) + 2 * (x != 0) + 4 * (y == 0) + 8 * (x == 0);
          }},
         {"sqrt(i1) + ln(i2) + log(i1)",
          [](M a, M b, int l, int c) {
@@ -163,8 +164,8 @@ TEST(ImageCalculatorTest, LocalOperatorsAndFunctionsMatchTheReference)
              const double x = a.at(l, c), y = b.at(l, c);
              const LookupTable& t = table();
              return t.getValue(x) + t.getEqualLowerBoundValue(y) * 2 + t.getUpperBoundValue(x) * 3
-                    + t.getInterpoledValue(y) + t.getClosestValue(x) + t.getHasKey(x) * 100
-                    + 30 * x + 30;
+                    + t.getInterpoledValue(y) + t.getClosestValue(x) + t.getHasKey(x) * 100 + 30 * x
+                    + 30;
          }},
         {"if i1 > 100 then abort else i1 + rand * 0",
          [](M a, M, int l, int c) { return a.at(l, c); }},
@@ -228,8 +229,8 @@ double convolution(const std::vector<std::pair<int, double>>& cells)
 
 TEST(ImageCalculatorTest, WindowStatisticsMatchTheReference)
 {
-    const char* names[] = {"nbsum",    "nbcount",  "nbaverage", "nbmin", "nbmax",
-                           "nbprod",   "nbmedian", "nbmode",    "nbvar", "nbstddev"};
+    const char* names[] = {"nbsum",  "nbcount",  "nbaverage", "nbmin", "nbmax",
+                           "nbprod", "nbmedian", "nbmode",    "nbvar", "nbstddev"};
     // Height, width, line and column of the centre: centred, off-centre at every edge,
     // one line or column, and far larger than the maps.
     const int windows[][4] = {{3, 3, 1, 1},    {5, 5, 2, 2},   {1, 4, 0, 3},
@@ -240,20 +241,26 @@ TEST(ImageCalculatorTest, WindowStatisticsMatchTheReference)
         const std::string window = std::to_string(w[0]) + ", " + std::to_string(w[1]) + ", "
                                    + std::to_string(w[2]) + ", " + std::to_string(w[3]) + ")";
         for (const std::string name : names)
-            cases.push_back({name + "(i1, " + window, [name, w](const TestMap& a, const TestMap&, int l, int c) {
-                                 return statistic(name, windowCells(a, l, c, w[0], w[1], w[2], w[3]));
+            cases.push_back({name + "(i1, " + window,
+                             [name, w](const TestMap& a, const TestMap&, int l, int c) {
+                                 return statistic(name,
+                                                  windowCells(a, l, c, w[0], w[1], w[2], w[3]));
                              }});
-        cases.push_back({"nbconvol(i1, t1, " + window, [w](const TestMap& a, const TestMap&, int l, int c) {
-                             return convolution(windowCells(a, l, c, w[0], w[1], w[2], w[3]));
-                         }});
+        cases.push_back(
+            {"nbconvol(i1, t1, " + window, [w](const TestMap& a, const TestMap&, int l, int c) {
+                 return convolution(windowCells(a, l, c, w[0], w[1], w[2], w[3]));
+             }});
     }
     // A window that changes from cell to cell, and a window written as a formula that
     // folds to numbers.
-    cases.push_back({"nbsum(i1, 1 + line % 3, 3, 1, column % 2)", [](const TestMap& a, const TestMap&, int l, int c) {
+    cases.push_back({"nbsum(i1, 1 + line % 3, 3, 1, column % 2)",
+                     [](const TestMap& a, const TestMap&, int l, int c) {
                          return statistic("nbsum", windowCells(a, l, c, 1 + l % 3, 3, 1, c % 2));
                      }});
-    cases.push_back({"nbmax(i2, v1, v1 - 1.5, 1.9, 1) + 0 * i1", [](const TestMap& a, const TestMap& b, int l, int c) {
-                         return statistic("nbmax", windowCells(b, l, c, 3, 1, 1, 1)) + 0 * a.at(l, c);
+    cases.push_back({"nbmax(i2, v1, v1 - 1.5, 1.9, 1) + 0 * i1",
+                     [](const TestMap& a, const TestMap& b, int l, int c) {
+                         return statistic("nbmax", windowCells(b, l, c, 3, 1, 1, 1))
+                                + 0 * a.at(l, c);
                      }});
     expectOnEveryShape(cases);
 }
@@ -278,7 +285,8 @@ TEST(ImageCalculatorTest, OneOrSeveralProcessorsGiveTheSameCells)
 {
     const TestMap a = TestMap::random(300, 1000, 7);
     const Raster i1 = a.toRaster(CellType::Float32, -9999);
-    const auto formula = compiledFormula("nbaverage(i1, 5, 7, 2, 3) + if i1 > 0 then i1 / 3 else line");
+    const auto formula =
+        compiledFormula("nbaverage(i1, 5, 7, 2, 3) + if i1 > 0 then i1 / 3 else line");
     const ImageCalculationInputs inputs{{&i1}, {}, {}};
     const ImageCalculator calculator(*formula);
     const Raster one = calculator.calculate(inputs, CellType::Float32, 1, {});
@@ -297,10 +305,11 @@ TEST(ImageCalculatorTest, MapsOnAnotherGridAndFormulasWithoutMapsAreRefused)
         ImageCalculator(*formula).calculate({{&i1, &i2}, {}, {}}, CellType::Float32, 1, {});
         FAIL() << "no exception";
     } catch (const VRK::IllegalDataException& error) {
-        EXPECT_EQ(error.getMessage(),
-                  "The map i2 of the expression \"i1 + i2\" lies on a grid of 4 x 5 cells, origin "
-                  "(0, 0), cell size (1, -1), not on the grid of i1, 5 x 4 cells, origin (0, 0), cell "
-                  "size (1, -1).");
+        EXPECT_EQ(
+            error.getMessage(),
+            "The map i2 of the expression \"i1 + i2\" lies on a grid of 4 x 5 cells, origin "
+            "(0, 0), cell size (1, -1), not on the grid of i1, 5 x 4 cells, origin (0, 0), cell "
+            "size (1, -1).");
     }
     const auto noMap = compiledFormula("v1 + 1");
     EXPECT_THROW(ImageCalculator(*noMap).calculate({{}, {2}, {}}, CellType::Float32, 1, {}),
@@ -316,9 +325,9 @@ TEST(ImageCalculatorTest, CheckpointAndAbortStopTheCalculation)
         if (++calls == 3)
             throw std::runtime_error("cancelled");
     };
-    EXPECT_THROW(ImageCalculator(*formula).calculate({{&i1}, {}, {}}, CellType::Float32, 2,
-                                                     cancelAtThird),
-                 std::runtime_error);
+    EXPECT_THROW(
+        ImageCalculator(*formula).calculate({{&i1}, {}, {}}, CellType::Float32, 2, cancelAtThird),
+        std::runtime_error);
     EXPECT_GE(calls.load(), 3);
 
     const auto aborting = compiledFormula("if i1 >= 4.5 then abort else 1");
@@ -326,7 +335,8 @@ TEST(ImageCalculatorTest, CheckpointAndAbortStopTheCalculation)
         ImageCalculator(*aborting).calculate({{&i1}, {}, {}}, CellType::Float32, 2, {});
         FAIL() << "no abort";
     } catch (const VRK::ExecutionAbortedException& error) {
-        EXPECT_EQ(error.getMessage(), "The expression \"if i1 >= 4.5 then abort else 1\" called abort.");
+        EXPECT_EQ(error.getMessage(),
+                  "The expression \"if i1 >= 4.5 then abort else 1\" called abort.");
     }
 }
 
@@ -336,7 +346,8 @@ TEST(ImageCalculatorTest, CategoricalResultsRoundHalvesAwayFromZeroAndKeepNoData
     const auto formula = compiledFormula("i1 * 1.5 + 0.5");
     for (double noData : {-9999.0, -3.4028234663852886e+38, double(NAN)}) {
         const Raster i1 = a.toRaster(CellType::Float32, noData);
-        const Raster result = ImageCalculator(*formula).calculate({{&i1}, {}, {}}, CellType::Int32, 1, {});
+        const Raster result =
+            ImageCalculator(*formula).calculate({{&i1}, {}, {}}, CellType::Int32, 1, {});
         ASSERT_EQ(result.getCellType(), CellType::Int32);
         // Also where the map's NoData does not fit an Int32 cell, or it has none.
         EXPECT_EQ(result.getNoData(), -9999);
@@ -351,7 +362,9 @@ TEST(ImageCalculatorTest, CategoricalResultsRoundHalvesAwayFromZeroAndKeepNoData
             }
     }
     const Raster kept = a.toRaster(CellType::Float32, -1);
-    EXPECT_EQ(ImageCalculator(*formula).calculate({{&kept}, {}, {}}, CellType::Int32, 1, {}).getNoData(), -1);
+    EXPECT_EQ(
+        ImageCalculator(*formula).calculate({{&kept}, {}, {}}, CellType::Int32, 1, {}).getNoData(),
+        -1);
 }
 
 } // namespace
