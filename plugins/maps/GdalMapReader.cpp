@@ -22,21 +22,16 @@ struct CellTypes {
 
 CellTypes cellTypesOf(GDALDataType fileType, const boost::filesystem::path& file)
 {
-    switch (fileType) {
-    case GDT_Byte:
-    case GDT_UInt16:
-    case GDT_Int16:
-    case GDT_Int32:
-        return {Tessaly::CellType::Int32, GDT_Int32};
-    case GDT_Float32:
+    if (GDALDataTypeIsComplex(fileType))
+        GdalUtils::fail(file, "read, since its cells are complex numbers");
+    if (fileType == GDT_Float32)
         return {Tessaly::CellType::Float32, GDT_Float32};
-    case GDT_UInt32:
-    case GDT_Float64:
-    default:
-        if (GDALDataTypeIsComplex(fileType))
-            GdalUtils::fail(file, "read, since its cells are complex numbers");
-        return {Tessaly::CellType::Float64, GDT_Float64};
-    }
+    const int bits = GDALGetDataTypeSizeBits(fileType);
+    const bool fitsInt32 = GDALDataTypeIsInteger(fileType)
+                           && (bits < 32 || (bits == 32 && GDALDataTypeIsSigned(fileType)));
+    if (fitsInt32)
+        return {Tessaly::CellType::Int32, GDT_Int32};
+    return {Tessaly::CellType::Float64, GDT_Float64};
 }
 
 Tessaly::Grid gridOf(GDALDataset& dataset)

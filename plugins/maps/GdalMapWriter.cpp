@@ -62,6 +62,7 @@ std::unique_ptr<GDALDataset> inMemory(const Tessaly::Raster& raster,
         memory->Create("", grid.columns, grid.lines, 0, gdalTypeOf(raster.getCellType()), nullptr));
     if (!dataset)
         GdalUtils::fail(file, "written");
+    // The copy made from this dataset only reads the cells it lends.
     char address[64];
     CPLPrintPointer(address, const_cast<void*>(raster.rawCells()), sizeof(address));
     const std::string data = std::string("DATAPOINTER=") + address;

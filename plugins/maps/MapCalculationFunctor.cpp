@@ -5,7 +5,6 @@
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "plugins/maps/CalculationEnvironment.h"
-#include "plugins/maps/CalculationUtils.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapType.h"
 #include "plugins/prim/ImageExpressionData.h"
@@ -21,28 +20,6 @@ namespace {
 const char* const ExpressionPort = "expression";
 const char* const ImagePort = "image";
 const char* const ResultPort = "result";
-
-// Every map must lie on the grid of the first, which the result takes.
-void requireOneGrid(const Tessaly::TopLevelImageExpression& expression,
-                    const std::vector<const Tessaly::Raster*>& maps)
-{
-    const Tessaly::ImageExpressionDictionary& dictionary = expression.getDictionary();
-    if (maps.empty())
-        CalculationUtils::refuse(expression,
-                                 "names no map, so there is no grid to calculate a map on.");
-    const Tessaly::Grid& first = maps.front()->getGrid();
-    for (size_t index = 1; index < maps.size(); ++index) {
-        const Tessaly::Grid& grid = maps[index]->getGrid();
-        if (!grid.isSameGridAs(first))
-            CalculationUtils::refuse(
-                expression, "names the map "
-                                + dictionary.getSpelling(Tessaly::EntityKind::Image, int(index + 1))
-                                + " on a grid of " + grid.describe()
-                                + ", which differs from the grid of its first map "
-                                + dictionary.getSpelling(Tessaly::EntityKind::Image, 1) + ": "
-                                + first.describe() + ".");
-    }
-}
 
 } // namespace
 
@@ -88,7 +65,8 @@ void MapCalculationFunctor::runContainerImpl()
 }
 
 // The shared formula is compiled in a copy, so that passes running at once never
-// write to it.
+// write to it. The calculator refuses maps on different grids and a formula without a
+// map.
 std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
 {
     Tessaly::TopLevelImageExpression expression =
@@ -98,7 +76,6 @@ std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
     if (namedImage_)
         environment.addMap(ImagePort, getInputPortValue<MapData>(ImagePort));
     const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
-    requireOneGrid(expression, inputs.images);
     const VRK::Task* task = VRK::Task::getCurrentTask();
     const int processors = int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
     return std::make_shared<const Tessaly::Raster>(

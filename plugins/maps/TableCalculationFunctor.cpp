@@ -1,10 +1,10 @@
 #include "plugins/maps/TableCalculationFunctor.h"
 
 #include "base/error/Exception.h"
+#include "base/error/ExceptionUtils.h"
 #include "base/run/ContainerFunctorUtils.h"
 #include "base/task/Task.h"
 #include "plugins/maps/CalculationEnvironment.h"
-#include "plugins/maps/CalculationUtils.h"
 #include "plugins/prim/ImageExpressionData.h"
 #include "plugins/prim/ImageExpressionType.h"
 #include "tessaly/images/EvaluationContext.h"
@@ -20,6 +20,13 @@ namespace {
 const char* const ExpressionPort = "expression";
 const char* const TablePort = "table";
 const char* const ResultPort = "result";
+
+[[noreturn]] void refuse(const Tessaly::TopLevelImageExpression& expression,
+                         const std::string& problem)
+{
+    VRK::ExceptionUtils::raise<VRK::Exception>("The expression \"" + expression.toString() + "\" "
+                                               + problem);
+}
 
 // Keys evaluated between two checks of the run's cancellation.
 constexpr size_t SliceKeys = 4096;
@@ -93,8 +100,7 @@ std::shared_ptr<const Tessaly::LookupTable> TableCalculationFunctor::calculate()
         *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
     expression.compile();
     if (!expression.getDependencies(Tessaly::EntityKind::Image).empty())
-        CalculationUtils::refuse(expression,
-                                 "names a map, which " + getName() + " does not provide.");
+        refuse(expression, "names a map, which " + getName() + " does not provide.");
     CalculationEnvironment environment(*this);
     std::shared_ptr<const Tessaly::LookupTable> keys;
     if (namedTable_) {
@@ -103,8 +109,7 @@ std::shared_ptr<const Tessaly::LookupTable> TableCalculationFunctor::calculate()
     }
     const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
     if (!namedTable_ && inputs.tables.empty())
-        CalculationUtils::refuse(expression,
-                                 "names no table, so there are no keys to calculate a table for.");
+        refuse(expression, "names no table, so there are no keys to calculate a table for.");
     return evaluateForEachKey(expression, inputs, keys ? *keys : *inputs.tables.front());
 }
 

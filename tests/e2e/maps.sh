@@ -3,7 +3,9 @@
 # small ASCII grids made here, under the sequential and the parallel scheduler: every
 # cell of the written maps, NoData included, is compared with what maps_grids.py
 # computes on its own; a written GeoTIFF keeps the input's geotransform, projection and
-# NoData as gdalinfo reads them; and refused scripts end with their message and status.
+# NoData as gdalinfo reads them; a loop of 100 passes through MuxMap peaks at the memory
+# of 2; Ctrl-C stops a long calculation; the example grows its town as the reference
+# does; and refused scripts end with their message and status.
 set -u
 vrk="$1"
 here="$(cd "$(dirname "$0")" && pwd)"
@@ -279,7 +281,14 @@ c := CalculateMap2 expression = [ #image + #small ] image = a.map {
     NameMap map = small.map mapName = "small";
 }
 SCRIPT
-refused "grid mismatch" "The run of \"c\" (CalculateMap2) failed: The expression \"#image + #small\" names the map #small on a grid of 9 x 5 cells" 3:1 1
+refused "grid mismatch" "The run of \"c\" (CalculateMap2) failed: The map #small of the expression \"#image + #small\" lies on a grid of 9 x 5 cells" 3:1 1
+
+fresh <<'SCRIPT'
+c := CalculateMap expression = [ v1 * 2 ] {
+    NumberValue value = 1 valueNumber = 1;
+}
+SCRIPT
+refused "no map" "The run of \"c\" (CalculateMap) failed: The expression \"v1 * 2\" names no map, so there is no grid to calculate it on." 1:1 1
 
 fresh <<'SCRIPT'
 a := LoadMap filename = "a.asc";
