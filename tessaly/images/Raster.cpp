@@ -57,8 +57,12 @@ TESSALY_VECTOR_KERNEL void writeFloating(const double* __restrict in, int count,
             cells[i] = static_cast<T>(in[i]);
         return;
     }
-    for (int i = 0; i < count; ++i)
-        cells[i] = in[i] != in[i] ? noData : static_cast<T>(in[i]);
+    // Narrowed first, then selected in T: NaN stays NaN, and a loop that compares in the
+    // type it stores vectorises where one that mixes widths does not.
+    for (int i = 0; i < count; ++i) {
+        const T narrowed = static_cast<T>(in[i]);
+        cells[i] = narrowed != narrowed ? noData : narrowed;
+    }
 }
 
 std::int32_t roundToInt32(double value, bool hasNoData, std::int32_t noData)
