@@ -10,17 +10,19 @@ namespace Tessaly {
 namespace {
 
 constexpr std::size_t LargePage = std::size_t(2) << 20;
-// Freed large maps kept for the next map of the same size, at most this many bytes: a
-// model that computes a map per step reuses the memory of the step before, which is
-// already mapped, instead of having the system clear new pages.
+// Freed large maps kept for the next map of the same size, at most this many and this
+// many bytes: a model that computes a map per step reuses the memory of the step before,
+// which is already mapped, instead of having the system clear new pages, and the memory
+// kept does not grow with the number of steps.
 constexpr std::size_t KeptBytes = std::size_t(256) << 20;
+constexpr std::size_t KeptBlocks = 4;
 
 struct Block {
     void* cells;
     std::size_t bytes;
 };
 
-class KeptBlocks {
+class KeptBlockList {
 public:
     void* take(std::size_t bytes)
     {
@@ -40,14 +42,14 @@ public:
         std::lock_guard<std::mutex> lock(mutex_);
         blocks_.push_back({cells, bytes});
         kept_ += bytes;
-        while (kept_ > KeptBytes) {
+        while (kept_ > KeptBytes || blocks_.size() > KeptBlocks) {
             std::free(blocks_.front().cells);
             kept_ -= blocks_.front().bytes;
             blocks_.pop_front();
         }
     }
 
-    ~KeptBlocks()
+    ~KeptBlockList()
     {
         for (const Block& block : blocks_)
             std::free(block.cells);
@@ -59,9 +61,9 @@ private:
     std::size_t kept_ = 0;
 };
 
-KeptBlocks& keptBlocks()
+KeptBlockList& keptBlocks()
 {
-    static KeptBlocks blocks;
+    static KeptBlockList blocks;
     return blocks;
 }
 
