@@ -49,22 +49,17 @@ public:
         }
     }
 
-    ~KeptBlockList()
-    {
-        for (const Block& block : blocks_)
-            std::free(block.cells);
-    }
-
 private:
     std::mutex mutex_;
     std::deque<Block> blocks_;
     std::size_t kept_ = 0;
 };
 
+// Never destroyed: a raster of static duration may be freed after every other static.
 KeptBlockList& keptBlocks()
 {
-    static KeptBlockList blocks;
-    return blocks;
+    static KeptBlockList* blocks = new KeptBlockList();
+    return *blocks;
 }
 
 bool isLarge(std::size_t bytes) { return bytes >= 2 * LargePage; }
