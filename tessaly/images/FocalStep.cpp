@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <numeric>
 
@@ -36,6 +37,22 @@ TESSALY_VECTOR_KERNEL void addShifted(const double* __restrict in, double* __res
     for (int i = 0; i < n; ++i)
         out[i] += in[i];
 }
+
+// The common narrow widths in one pass, the window's additions unrolled.
+template <int Width>
+TESSALY_VECTOR_KERNEL void sumWindows(const double* __restrict in, double* __restrict out, int n)
+{
+    for (int i = 0; i < n; ++i) {
+        double sum = 0;
+        for (int k = 0; k < Width; ++k)
+            sum += in[i + k];
+        out[i] = sum;
+    }
+}
+
+using WindowSummer = void (*)(const double*, double*, int);
+const WindowSummer windowSummers[] = {sumWindows<1>, sumWindows<2>, sumWindows<3>, sumWindows<4>,
+                                      sumWindows<5>, sumWindows<6>, sumWindows<7>, sumWindows<8>};
 
 TESSALY_VECTOR_KERNEL void finishTotals(const double* __restrict sums,
                                         const double* __restrict present, bool average,
@@ -165,12 +182,21 @@ void FocalStep::addWindows(const Span& span, const double* values, double* padde
     const int total = cells + width - 1;
     const int first = std::min(std::max(-offset, 0), total);
     const int end = std::min(std::max(span.length - offset, first), total);
-    std::fill(padded, padded + first, 0.0);
-    std::copy(values + first + offset, values + end + offset, padded + first);
-    std::fill(padded + end, padded + total, 0.0);
+    const double* in = values + offset;
+    // Inside the image the columns are read in place; at its edges, from a padded copy.
+    if (first > 0 || end < total) {
+        std::fill(padded, padded + first, 0.0);
+        std::copy(values + first + offset, values + end + offset, padded + first);
+        std::fill(padded + end, padded + total, 0.0);
+        in = padded;
+    }
+    if (width <= int(std::size(windowSummers))) {
+        windowSummers[width - 1](in, out, cells);
+        return;
+    }
     std::fill(out, out + cells, 0.0);
     for (int k = 0; k < width; ++k)
-        addShifted(padded + k, out, cells);
+        addShifted(in + k, out, cells);
 }
 
 void FocalStep::subtractTotals(const Span& span, const double* values, double* totals, double* out,
