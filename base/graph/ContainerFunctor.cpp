@@ -114,7 +114,7 @@ void ContainerFunctor::resetInputPortData(bool feedback)
 void ContainerFunctor::resetOutputPortData(bool recursive)
 {
     Functor::resetOutputPortData(recursive);
-    if (!recursive)
+    if (!recursive || !takeContentsRun())
         return;
     forEachWithin(*this, Operation::ResetOutputs,
                   [](Functor& functor, size_t) { functor.resetOutputPortData(true); });

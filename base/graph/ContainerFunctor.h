@@ -40,6 +40,8 @@ public:
 
     Functor* asFunctor() override { return this; }
     const Functor* asFunctor() const override { return this; }
+    ContainerFunctor* asContainer() override { return this; }
+    const ContainerFunctor* asContainer() const override { return this; }
 
     void addInternalOutputPort(const std::string& name, const std::string& description,
                                const std::shared_ptr<BaseType>& type);

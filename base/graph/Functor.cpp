@@ -110,16 +110,12 @@ std::string describeRun(const void* functor)
 }
 } // namespace
 
-ContainerFunctor* Functor::asContainer() { return dynamic_cast<ContainerFunctor*>(this); }
-
-const ContainerFunctor* Functor::asContainer() const
-{
-    return dynamic_cast<const ContainerFunctor*>(this);
-}
 
 void Functor::run()
 {
     Trace frame(this, &describeRun);
+    if (container_)
+        container_->noteContentsRun();
     pullInputs();
     runImpl();
 }

@@ -123,9 +123,10 @@ public:
     bool getFlag(FunctorFlag flag) const;
     size_t getLevel() const { return level_; }
 
-    // The functor as a container of others; none for a functor that holds none.
-    ContainerFunctor* asContainer();
-    const ContainerFunctor* asContainer() const;
+    // The functor as a container of others; none for a functor that holds none. A
+    // virtual call rather than a cast: walks over a script ask it of every functor.
+    virtual ContainerFunctor* asContainer() { return nullptr; }
+    virtual const ContainerFunctor* asContainer() const { return nullptr; }
 
     // Where the functor sits: its container, the script at the top, its alias there.
     FunctorContainer* getContainer() const { return container_; }

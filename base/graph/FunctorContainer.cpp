@@ -24,6 +24,9 @@ bool FunctorContainer::FunctorIterator::hasNext() const { return index_ < functo
 
 // The contents are taken apart level by level here: left to the nested destructors of
 // their containers they would take the machine stack as deep as the nesting goes.
+// A copy has contents of its own, which it makes as the copied container's are made.
+FunctorContainer::FunctorContainer(const FunctorContainer&) {}
+
 FunctorContainer::~FunctorContainer()
 {
     std::vector<std::shared_ptr<Functor>> released = std::move(functors_);
@@ -135,6 +138,16 @@ FunctorContainer* FunctorContainer::getParentContainer() const
 {
     const Functor* self = asFunctor();
     return self ? self->getContainer() : nullptr;
+}
+
+// Stops at the first container already marked: every container around a marked one is
+// marked too, since clearing one clears all inside it.
+void FunctorContainer::markContentsRun()
+{
+    for (FunctorContainer* container = this;
+         container && !container->contentsMayHoldData_.exchange(true, std::memory_order_relaxed);
+         container = container->getParentContainer()) {
+    }
 }
 
 std::shared_ptr<Functor> FunctorContainer::getSharedFunctor(const Functor* functor) const

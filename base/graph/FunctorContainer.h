@@ -1,6 +1,7 @@
 #ifndef VRK_BASE_GRAPH_FUNCTORCONTAINER_H
 #define VRK_BASE_GRAPH_FUNCTORCONTAINER_H
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,6 +25,8 @@ public:
         mutable size_t index_ = 0;
     };
 
+    FunctorContainer() = default;
+    FunctorContainer(const FunctorContainer& other);
     virtual ~FunctorContainer();
 
     // Creates a functor by registered name or alias and adds it.
@@ -55,10 +58,26 @@ public:
     const std::vector<std::shared_ptr<Functor>>& getFunctors() const { return functors_; }
     std::shared_ptr<Functor> getSharedFunctor(const Functor* functor) const;
 
+    // Whether a functor inside may hold output data made since the contents were last
+    // cleared. A functor that runs marks its container and every enclosing one, so that
+    // clearing a container that nothing inside has run since costs nothing: without it,
+    // each level of a deep nest would clear everything below it at every pass.
+    void noteContentsRun()
+    {
+        if (!contentsMayHoldData_.load(std::memory_order_relaxed))
+            markContentsRun();
+    }
+    // Forgets the mark, telling whether it was set.
+    bool takeContentsRun() { return contentsMayHoldData_.exchange(false, std::memory_order_relaxed); }
+
 private:
+    void markContentsRun();
+
     std::vector<std::shared_ptr<Functor>>::const_iterator find(const Functor* functor) const;
 
     std::vector<std::shared_ptr<Functor>> functors_;
+    // Set from the start: a functor may be given data before any run.
+    std::atomic<bool> contentsMayHoldData_{true};
 };
 
 } // namespace VRK

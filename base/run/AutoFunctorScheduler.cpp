@@ -1,6 +1,6 @@
 #include "base/run/AutoFunctorScheduler.h"
 
-#include "base/graph/FunctorDependencies.h"
+#include "base/run/RunContext.h"
 #include "base/run/ParallelPass.h"
 
 #include <chrono>
@@ -25,7 +25,7 @@ const unsigned int PassesPerTiming = 16;
 
 void AutoFunctorScheduler::scheduleImpl()
 {
-    schedule_ = PassSchedule(FunctorDependencies(*getContainer()));
+    schedule_ = PassSchedule(RunContext::dependenciesOf(*getContainer()));
     // Before any measure, a container among independent functors (a loop or a block,
     // whose contents run inside it) is the sign of work worth sharing out.
     parallel_ = schedule_.holdsContainer();

@@ -7,39 +7,13 @@
 
 namespace VRK {
 
-namespace {
-
-// Whether `functor` is `container` or lies inside it.
-bool isWithin(const Functor* functor, const FunctorContainer& container)
-{
-    for (; functor;
-         functor = functor->getContainer() ? functor->getContainer()->asFunctor() : nullptr) {
-        if (functor == container.asFunctor() || functor->getContainer() == &container)
-            return true;
-    }
-    return false;
-}
-
-// The innermost container that holds both the reader of `port` and its peer's producer.
-const FunctorContainer* closingContainer(const InputPort& port)
-{
-    const Functor* producer = port.getPeer()->getOwner();
-    for (const FunctorContainer* container = port.getOwner()->getContainer(); container;
-         container = container->getParentContainer())
-        if (isWithin(producer, *container))
-            return container;
-    return nullptr;
-}
-
-} // namespace
-
-ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler)
-    : container_(container), makeScheduler_(std::move(makeScheduler))
+ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler,
+                             std::vector<FeedbackStrongInputPort*> feedback)
+    : container_(container), makeScheduler_(std::move(makeScheduler)), feedback_(std::move(feedback))
 {
     for (const auto& functor : container.getFunctors())
         if (auto* hook = dynamic_cast<HookFunctor*>(functor.get()))
             hooks_.push_back(hook);
-    collectFeedback(container);
     if (const ContainerFunctor* owner =
             container.asFunctor() ? container.asFunctor()->asContainer() : nullptr)
         for (const auto& port : owner->getInternalInputPorts()) {
@@ -51,19 +25,6 @@ ContainerPlan::ContainerPlan(const FunctorContainer& container, SchedulerMaker m
 }
 
 ContainerPlan::~ContainerPlan() = default;
-
-void ContainerPlan::collectFeedback(const FunctorContainer& inner)
-{
-    FunctorWalk::forEach(inner, [&](const Functor& functor) {
-        for (const auto& port : functor.getInputPorts()) {
-            if (!port->isFeedback() || !port->isBound() || closingContainer(*port) != &container_)
-                continue;
-            auto* feedback = dynamic_cast<FeedbackStrongInputPort*>(port.get());
-            assert(feedback != 0 && "a feedback input is a FeedbackStrongInputPort");
-            feedback_.push_back(feedback);
-        }
-    });
-}
 
 FunctorScheduler& ContainerPlan::getScheduler(LogTag tag)
 {

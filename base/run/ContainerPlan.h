@@ -26,7 +26,9 @@ class ContainerPlan {
 public:
     using SchedulerMaker = std::function<std::unique_ptr<FunctorScheduler>()>;
 
-    ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler);
+    // `feedback`: the bound feedback ports whose cycle closes at this container.
+    ContainerPlan(const FunctorContainer& container, SchedulerMaker makeScheduler,
+                  std::vector<FeedbackStrongInputPort*> feedback);
     ~ContainerPlan();
     ContainerPlan(const ContainerPlan&) = delete;
     ContainerPlan& operator=(const ContainerPlan&) = delete;
@@ -46,8 +48,6 @@ public:
     void clearFeedback() const;
 
 private:
-    void collectFeedback(const FunctorContainer& inner);
-
     const FunctorContainer& container_;
     SchedulerMaker makeScheduler_;
     std::unique_ptr<FunctorScheduler> scheduler_;

@@ -68,8 +68,33 @@ ContainerPlan& RunContext::findOrMakePlan(const FunctorContainer& container)
     std::lock_guard<std::mutex> lock(mutex_);
     std::unique_ptr<ContainerPlan>& plan = plans_[&container];
     if (!plan)
-        plan = std::make_unique<ContainerPlan>(container, makeScheduler_);
+        plan = std::make_unique<ContainerPlan>(container, makeScheduler_,
+                                               indexFor(container).getFeedback(container));
     return *plan;
+}
+
+FunctorDependencies RunContext::getDependencies(const FunctorContainer& container)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return indexFor(container).getDependencies(container);
+}
+
+FunctorDependencies RunContext::dependenciesOf(const FunctorContainer& container)
+{
+    if (RunContext* context = getCurrent())
+        return context->getDependencies(container);
+    return FunctorDependencies(container);
+}
+
+// A run starts at its top container, so the first index covers every later request;
+// a light run of one functor may start lower, and indexes only what it runs.
+const RunIndex& RunContext::indexFor(const FunctorContainer& container)
+{
+    for (const auto& index : indexes_)
+        if (index->covers(container))
+            return *index;
+    indexes_.push_back(std::make_unique<RunIndex>(container));
+    return *indexes_.back();
 }
 
 bool RunContext::noteFailure(const Functor& functor, const std::string& message)

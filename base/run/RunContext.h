@@ -3,7 +3,9 @@
 
 // Internal to the host library: plugins and applications do not include it.
 
+#include "base/graph/FunctorDependencies.h"
 #include "base/run/ContainerPlan.h"
+#include "base/run/RunIndex.h"
 #include "base/task/Task.h"
 
 #include <atomic>
@@ -11,6 +13,7 @@
 #include <mutex>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace VRK {
 
@@ -38,6 +41,10 @@ public:
     // thread remembers the plans it asked for last, so that the passes of a loop do not
     // all queue for the run's lock.
     ContainerPlan& getPlan(const FunctorContainer& container);
+    // The order of the contents of `container`, from the run's index of the script.
+    FunctorDependencies getDependencies(const FunctorContainer& container);
+    // The same in the run this thread works on, or worked out afresh outside a run.
+    static FunctorDependencies dependenciesOf(const FunctorContainer& container);
 
     // Which functor a failure that travels up this thread's stack is laid on: the
     // innermost that it left. It travels with the error from thread to thread, as the
@@ -76,6 +83,8 @@ public:
 
 private:
     ContainerPlan& findOrMakePlan(const FunctorContainer& container);
+    // An index that covers `container`, made on the first request; with the lock held.
+    const RunIndex& indexFor(const FunctorContainer& container);
 
     // Tells this run from an earlier one at the same address.
     const unsigned long serial_;
@@ -83,6 +92,7 @@ private:
     SchedulerMaker makeScheduler_;
     mutable std::mutex mutex_;
     std::unordered_map<const FunctorContainer*, std::unique_ptr<ContainerPlan>> plans_;
+    std::vector<std::unique_ptr<RunIndex>> indexes_;
     std::atomic<bool> failed_{false};
 };
 

@@ -1,6 +1,6 @@
 #include "base/run/SequentialFunctorScheduler.h"
 
-#include "base/graph/FunctorDependencies.h"
+#include "base/run/RunContext.h"
 
 namespace VRK {
 
@@ -16,7 +16,7 @@ SequentialFunctorScheduler::~SequentialFunctorScheduler() = default;
 
 void SequentialFunctorScheduler::scheduleImpl()
 {
-    schedule_ = PassSchedule(FunctorDependencies(*getContainer()));
+    schedule_ = PassSchedule(RunContext::dependenciesOf(*getContainer()));
 }
 
 void SequentialFunctorScheduler::runImpl() { schedule_.runInOrder(getLogTag()); }

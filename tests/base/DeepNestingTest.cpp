@@ -4,6 +4,11 @@
 #include "base/graph/ContainerFunctor.h"
 #include "base/parse/ParseError.h"
 #include "base/script/dot/GraphvizScriptWriter.h"
+#include "base/run/AutoFunctorScheduler.h"
+#include "base/run/ParallelFunctorScheduler.h"
+#include "base/run/SequentialFunctorScheduler.h"
+#include "base/task/Task.h"
+#include "tests/base/EngineTestKit.h"
 #include "base/script/xml/XMLScriptReader.h"
 #include "base/script/xml/XMLScriptWriter.h"
 #include "base/verify/IntrusiveScriptVerifier.h"
@@ -84,6 +89,18 @@ TEST(DeepNesting, XMLReadsAsDeepAsText)
     auto script = VRK::Testing::readScriptText<VRK::XMLScriptReader>(xml, "t.xml");
     EXPECT_EQ(depthOf(*script), Depth + 1);
     EXPECT_NO_THROW(VRK::NonIntrusiveScriptVerifier().verify(script.get()));
+}
+
+// Every level of a run plans its own pass and clears its contents' outputs: done per
+// level over everything below, a deep nest would take the square of its depth.
+TEST(DeepNesting, RunsUnderEveryScheduler)
+{
+    VRK::Testing::registerRunServices();
+    auto script = readText(nestedText("s := TestSource constant = 2; TestSink value = s.object;"));
+    VRK::Task task;
+    EXPECT_NO_THROW(script->run(task, VRK::SequentialFunctorScheduler()));
+    EXPECT_NO_THROW(script->run(task, VRK::ParallelFunctorScheduler()));
+    EXPECT_NO_THROW(script->run(task, VRK::AutoFunctorScheduler()));
 }
 
 // The cycle check orders the contents of each container by reads that may come from
