@@ -8,7 +8,7 @@
 
 namespace VRK {
 
-DataEditor::DataEditor(const std::string& name, const std::string& description,
+DataEditor::DataEditor(std::string_view name, std::string_view description,
                        const std::shared_ptr<BaseType>& type)
     : DataHolder(name, description, type)
 {

@@ -9,7 +9,7 @@ namespace VRK {
 // immutable data object that the holder then carries.
 class DataEditor : public DataHolder {
 public:
-    DataEditor(const std::string& name, const std::string& description,
+    DataEditor(std::string_view name, std::string_view description,
                const std::shared_ptr<BaseType>& type);
     DataEditor(const DataEditor&) = default;
     DataEditor& operator=(const DataEditor&) = default;

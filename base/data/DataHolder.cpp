@@ -6,7 +6,7 @@
 
 namespace VRK {
 
-DataHolder::DataHolder(const std::string& name, const std::string& description,
+DataHolder::DataHolder(std::string_view name, std::string_view description,
                        const std::shared_ptr<BaseType>& type)
     : Typeable(name, description, type)
 {

@@ -23,7 +23,7 @@ constexpr DataHolderFlag ProcessControl = 7;
 // Holds at most one data object of its type: the base of ports, editors and viewers.
 class DataHolder : public Typeable, public Lockable {
 public:
-    DataHolder(const std::string& name, const std::string& description,
+    DataHolder(std::string_view name, std::string_view description,
                const std::shared_ptr<BaseType>& type);
     ~DataHolder() override;
 

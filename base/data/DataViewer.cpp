@@ -2,7 +2,7 @@
 
 namespace VRK {
 
-DataViewer::DataViewer(const std::string& name, const std::string& description,
+DataViewer::DataViewer(std::string_view name, std::string_view description,
                        const std::shared_ptr<BaseType>& type)
     : DataHolder(name, description, type)
 {

@@ -8,7 +8,7 @@ namespace VRK {
 // Inspects a data object without changing it.
 class DataViewer : public DataHolder {
 public:
-    DataViewer(const std::string& name, const std::string& description,
+    DataViewer(std::string_view name, std::string_view description,
                const std::shared_ptr<BaseType>& type);
     DataViewer(const DataViewer&) = default;
     DataViewer& operator=(const DataViewer&) = default;

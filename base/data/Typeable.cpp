@@ -2,7 +2,7 @@
 
 namespace VRK {
 
-Typeable::Typeable(const std::string& name, const std::string& description,
+Typeable::Typeable(std::string_view name, std::string_view description,
                    const std::shared_ptr<BaseType>& type)
     : Descriptable(name, description), type_(type)
 {

@@ -12,7 +12,7 @@ class BaseType;
 // A described object of a type: functors, ports and data holders.
 class Typeable : public Descriptable {
 public:
-    Typeable(const std::string& name, const std::string& description,
+    Typeable(std::string_view name, std::string_view description,
              const std::shared_ptr<BaseType>& type);
 
     // By reference: ports ask for their type at every pass, from many threads, and a

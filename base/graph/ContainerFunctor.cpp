@@ -5,7 +5,7 @@
 
 namespace VRK {
 
-ContainerFunctor::ContainerFunctor(const std::string& name, const std::string& description,
+ContainerFunctor::ContainerFunctor(std::string_view name, std::string_view description,
                                    const std::shared_ptr<BaseType>& type)
     : Functor(name, description, type)
 {
@@ -184,8 +184,7 @@ void ContainerFunctor::runContainerImpl()
     contentsRunner(*this);
 }
 
-void ContainerFunctor::addInternalOutputPort(const std::string& name,
-                                             const std::string& description,
+void ContainerFunctor::addInternalOutputPort(std::string_view name, std::string_view description,
                                              const std::shared_ptr<BaseType>& type)
 {
     assert(!getInternalOutputPort(name) && "internal output port names are unique");
@@ -193,8 +192,7 @@ void ContainerFunctor::addInternalOutputPort(const std::string& name,
     internalOutputs_.back()->setOwner(this);
 }
 
-void ContainerFunctor::addInternalInputPort(const std::string& name,
-                                            const std::string& description,
+void ContainerFunctor::addInternalInputPort(std::string_view name, std::string_view description,
                                             const std::shared_ptr<BaseType>& type)
 {
     assert(!getInternalInputPort(name) && "internal input port names are unique");
@@ -209,7 +207,7 @@ void ContainerFunctor::addInternalInputPort(const FeedbackStrongInputPort& port)
     internalInputs_.back()->setOwner(this);
 }
 
-StrongInputPort* ContainerFunctor::getInternalInputPort(const std::string& name) const
+StrongInputPort* ContainerFunctor::getInternalInputPort(std::string_view name) const
 {
     for (const auto& port : internalInputs_)
         if (port->getName() == name)

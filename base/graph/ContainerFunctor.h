@@ -12,7 +12,7 @@ namespace VRK {
 // contents; internal input ports are fed by its contents and read after a pass.
 class ContainerFunctor : public Functor, public FunctorContainer {
 public:
-    ContainerFunctor(const std::string& name, const std::string& description,
+    ContainerFunctor(std::string_view name, std::string_view description,
                      const std::shared_ptr<BaseType>& type);
     ContainerFunctor(const ContainerFunctor& other);
     ~ContainerFunctor() override;
@@ -43,12 +43,12 @@ public:
     ContainerFunctor* asContainer() override { return this; }
     const ContainerFunctor* asContainer() const override { return this; }
 
-    void addInternalOutputPort(const std::string& name, const std::string& description,
+    void addInternalOutputPort(std::string_view name, std::string_view description,
                                const std::shared_ptr<BaseType>& type);
-    void addInternalInputPort(const std::string& name, const std::string& description,
+    void addInternalInputPort(std::string_view name, std::string_view description,
                               const std::shared_ptr<BaseType>& type);
     void addInternalInputPort(const FeedbackStrongInputPort& port);
-    StrongInputPort* getInternalInputPort(const std::string& name) const;
+    StrongInputPort* getInternalInputPort(std::string_view name) const;
     OutputPort* getInternalOutputPort(std::string_view name) const;
     const std::vector<std::shared_ptr<StrongInputPort>>& getInternalInputPorts() const
     {

@@ -2,8 +2,8 @@
 
 namespace VRK {
 
-FeedbackStrongInputPort::FeedbackStrongInputPort(const std::string& name,
-                                                 const std::string& description,
+FeedbackStrongInputPort::FeedbackStrongInputPort(std::string_view name,
+                                                 std::string_view description,
                                                  const std::shared_ptr<BaseType>& type)
     : StrongInputPort(name, description, type)
 {

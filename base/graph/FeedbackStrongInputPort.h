@@ -9,7 +9,7 @@ namespace VRK {
 // peer produced in the previous pass, and nothing on a loop's first pass.
 class FeedbackStrongInputPort : public StrongInputPort {
 public:
-    FeedbackStrongInputPort(const std::string& name, const std::string& description,
+    FeedbackStrongInputPort(std::string_view name, std::string_view description,
                             const std::shared_ptr<BaseType>& type);
     ~FeedbackStrongInputPort() override;
 

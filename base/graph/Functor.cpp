@@ -11,7 +11,7 @@
 
 namespace VRK {
 
-Functor::Functor(const std::string& name, const std::string& description,
+Functor::Functor(std::string_view name, std::string_view description,
                  const std::shared_ptr<BaseType>& type)
     : Typeable(name, description, type)
 {
@@ -136,7 +136,7 @@ void Functor::adoptInputPort(const std::shared_ptr<InputPort>& port,
         inputAliases_.emplace_back(alias, port->getName());
 }
 
-void Functor::addInputPort(const std::string& name, const std::string& description,
+void Functor::addInputPort(std::string_view name, std::string_view description,
                            const std::shared_ptr<BaseType>& type, bool linked,
                            const std::vector<std::string>& aliases)
 {
@@ -158,8 +158,8 @@ void Functor::addInputPort(const std::shared_ptr<InputPort>& port,
     adoptInputPort(port, aliases);
 }
 
-std::shared_ptr<DataEditor> Functor::addOptionalInputPort(const std::string& name,
-                                                          const std::string& description,
+std::shared_ptr<DataEditor> Functor::addOptionalInputPort(std::string_view name,
+                                                          std::string_view description,
                                                           const std::shared_ptr<BaseType>& type,
                                                           bool linked, unsigned int,
                                                           const std::vector<std::string>& aliases)
@@ -172,7 +172,7 @@ std::shared_ptr<DataEditor> Functor::addOptionalInputPort(const std::string& nam
 
 // Built in place: every functor of a script read makes its ports, and a copy of each
 // would cost as much again.
-void Functor::addOutputPort(const std::string& name, const std::string& description,
+void Functor::addOutputPort(std::string_view name, std::string_view description,
                             const std::shared_ptr<BaseType>& type, bool linked)
 {
     adoptOutputPort(std::make_shared<OutputPort>(name, description, type, linked));

@@ -46,7 +46,7 @@ constexpr FunctorFlag Folder = 8;
 // The order of the virtual operations below is part of the plugin interface.
 class Functor : public Typeable, public Verifiable, public Propertiable {
 public:
-    Functor(const std::string& name, const std::string& description,
+    Functor(std::string_view name, std::string_view description,
             const std::shared_ptr<BaseType>& type);
     Functor(const Functor& other);
     Functor& operator=(const Functor& other);
@@ -71,7 +71,7 @@ public:
     void pullInputs();
 
     // Ports. Inputs and outputs are separate name spaces; aliases name inputs too.
-    void addInputPort(const std::string& name, const std::string& description,
+    void addInputPort(std::string_view name, std::string_view description,
                       const std::shared_ptr<BaseType>& type, bool linked,
                       const std::vector<std::string>& aliases = {});
     void addInputPort(const InputPort& port, const std::vector<std::string>& aliases = {});
@@ -79,12 +79,12 @@ public:
     // by the functor.
     void addInputPort(const std::shared_ptr<InputPort>& port,
                       const std::vector<std::string>& aliases = {});
-    std::shared_ptr<DataEditor> addOptionalInputPort(const std::string& name,
-                                                     const std::string& description,
+    std::shared_ptr<DataEditor> addOptionalInputPort(std::string_view name,
+                                                     std::string_view description,
                                                      const std::shared_ptr<BaseType>& type,
                                                      bool linked, unsigned int level,
                                                      const std::vector<std::string>& aliases = {});
-    void addOutputPort(const std::string& name, const std::string& description,
+    void addOutputPort(std::string_view name, std::string_view description,
                        const std::shared_ptr<BaseType>& type, bool linked = false);
     void addOutputPort(const OutputPort& port, const std::vector<std::string>& aliases = {});
 

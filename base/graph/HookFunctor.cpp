@@ -2,7 +2,7 @@
 
 namespace VRK {
 
-HookFunctor::HookFunctor(const std::string& name, const std::string& description,
+HookFunctor::HookFunctor(std::string_view name, std::string_view description,
                          const std::shared_ptr<BaseType>& type)
     : Functor(name, description, type)
 {

@@ -10,7 +10,7 @@ namespace VRK {
 // their values.
 class HookFunctor : public Functor {
 public:
-    HookFunctor(const std::string& name, const std::string& description,
+    HookFunctor(std::string_view name, std::string_view description,
                 const std::shared_ptr<BaseType>& type);
     ~HookFunctor() override;
 

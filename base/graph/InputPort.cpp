@@ -9,7 +9,7 @@
 
 namespace VRK {
 
-InputPort::InputPort(const std::string& name, const std::string& description,
+InputPort::InputPort(std::string_view name, std::string_view description,
                      const std::shared_ptr<BaseType>& type, bool linked)
     : SinglePeerDataHolder(name, description, type), linked_(linked)
 {

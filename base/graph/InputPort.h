@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace VRK {
@@ -16,7 +17,7 @@ namespace VRK {
 class InputPort : public SinglePeerDataHolder {
 public:
     // `linked`: the port is meant to be bound rather than typed in.
-    InputPort(const std::string& name, const std::string& description,
+    InputPort(std::string_view name, std::string_view description,
               const std::shared_ptr<BaseType>& type, bool linked);
     InputPort(const InputPort& other);
     ~InputPort() override;

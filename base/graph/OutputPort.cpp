@@ -2,7 +2,7 @@
 
 namespace VRK {
 
-OutputPort::OutputPort(const std::string& name, const std::string& description,
+OutputPort::OutputPort(std::string_view name, std::string_view description,
                        const std::shared_ptr<BaseType>& type, bool linked)
     : DataHolder(name, description, type), linked_(linked)
 {

@@ -9,7 +9,7 @@ namespace VRK {
 class OutputPort : public DataHolder {
 public:
     // `linked`: the output is meant to feed a particular port (a loop's condition).
-    OutputPort(const std::string& name, const std::string& description,
+    OutputPort(std::string_view name, std::string_view description,
                const std::shared_ptr<BaseType>& type, bool linked);
     ~OutputPort() override;
 

@@ -2,7 +2,7 @@
 
 namespace VRK {
 
-StrongInputPort::StrongInputPort(const std::string& name, const std::string& description,
+StrongInputPort::StrongInputPort(std::string_view name, std::string_view description,
                                  const std::shared_ptr<BaseType>& type)
     : InputPort(name, description, type, true)
 {

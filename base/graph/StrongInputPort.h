@@ -8,7 +8,7 @@ namespace VRK {
 // An input that is only ever bound, never typed in: it has no editor.
 class StrongInputPort : public InputPort {
 public:
-    StrongInputPort(const std::string& name, const std::string& description,
+    StrongInputPort(std::string_view name, std::string_view description,
                     const std::shared_ptr<BaseType>& type);
     ~StrongInputPort() override;
 

@@ -2,10 +2,9 @@
 #define VRK_BASE_PARSE_SCANNERTYPES_H
 
 #include "base/parse/DefaultSkipGrammar.h"
-#include "base/util/ScriptFileName.h"
+#include "base/parse/ScriptTextIterator.h"
 
 #include <boost/spirit/include/classic_core.hpp>
-#include <boost/spirit/include/classic_position_iterator.hpp>
 
 #include <string>
 #include <vector>
@@ -20,9 +19,7 @@ using PlainScanner = boost::spirit::classic::phrase_scanner_t;
 
 // Script: text script files, with file positions for diagnostics; skips white space
 // and comments. Positions point at the file name the scanner keeps.
-using ScriptFilePosition = boost::spirit::classic::file_position_base<ScriptFileName>;
-using ScriptIterator =
-    boost::spirit::classic::position_iterator<std::vector<char>::const_iterator, ScriptFilePosition>;
+using ScriptIterator = ScriptTextIterator;
 using ScriptScanner = boost::spirit::classic::scanner<
     ScriptIterator, boost::spirit::classic::scanner_policies<
                         boost::spirit::classic::skip_parser_iteration_policy<DefaultSkipGrammar>>>;

@@ -23,6 +23,7 @@ public:
 private:
     std::string filename_;
     std::vector<char> characters_;
+    ScriptTextLines lines_;
     ScriptIterator first_;
     ScriptIterator last_;
     DefaultSkipGrammar skipper_;

@@ -5,6 +5,7 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/parse/ParseError.h"
 #include "base/parse/PlainTextOrigin.h"
+#include "base/parse/ScriptTextIterator.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 #include <boost/spirit/include/classic_position_iterator.hpp>
@@ -23,6 +24,12 @@ ParseError::Position positionOf(
     const boost::spirit::classic::position_iterator<BaseIteratorT, PositionT, SelfT>& where)
 {
     const PositionT& position = where.get_position();
+    return ParseError::Position(position.file, position.line, position.column);
+}
+
+inline ParseError::Position positionOf(const ScriptTextIterator& where)
+{
+    const ScriptFilePosition position = where.get_position();
     return ParseError::Position(position.file, position.line, position.column);
 }
 

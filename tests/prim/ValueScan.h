@@ -24,13 +24,15 @@ template <>
 class ValueScan<VRK::ScriptScanner> {
 public:
     explicit ValueScan(const std::string& text)
-        : chars_(text.begin(), text.end()), first_(begin(chars_)),
+        : chars_(text.begin(), text.end()),
+          lines_(chars_.data(), chars_.data() + chars_.size(), fileName()),
+          first_(chars_.data(), lines_), last_(chars_.data() + chars_.size(), lines_),
           scan_(first_, last_, Policies(Iteration(skip_)))
     {
     }
 
     const VRK::ScriptScanner& scanner() const { return scan_; }
-    std::string rest() const { return std::string(first_, last_); }
+    std::string rest() const { return std::string(first_.base(), last_.base()); }
     // Positions point at this name, which outlives them.
     static const char* fileName() { return "file.vrk"; }
 
@@ -39,16 +41,8 @@ private:
         boost::spirit::classic::skip_parser_iteration_policy<VRK::DefaultSkipGrammar>;
     using Policies = boost::spirit::classic::scanner_policies<Iteration>;
 
-    // Columns count characters, as the plain scanner's do. Set before the scanner
-    // exists, since constructing it skips leading white space.
-    static VRK::ScriptIterator begin(const std::vector<char>& chars)
-    {
-        VRK::ScriptIterator first(chars.cbegin(), chars.cend(), fileName());
-        first.set_tabchars(1);
-        return first;
-    }
-
     std::vector<char> chars_;
+    VRK::ScriptTextLines lines_;
     VRK::ScriptIterator first_;
     VRK::ScriptIterator last_;
     VRK::DefaultSkipGrammar skip_;

@@ -33,13 +33,13 @@ DefaultScriptActions::DefaultScriptActions(ScriptBuilder& builder) : builder_(bu
 
 ScriptPosition DefaultScriptActions::positionOf(const ScriptIterator& where)
 {
-    const ScriptFilePosition& position = where.get_position();
+    const ScriptFilePosition position = where.get_position();
     return ScriptPosition{position.file, position.line, position.column};
 }
 
 void DefaultScriptActions::raise(const ScriptIterator& where, const std::string& message) const
 {
-    const ScriptFilePosition& position = where.get_position();
+    const ScriptFilePosition position = where.get_position();
     ExceptionUtils::raise(
         ParseError(message, ParseError::Position(position.file, position.line, position.column)));
 }
@@ -96,16 +96,15 @@ void DefaultScriptActions::unterminatedFunctor(const ScriptIterator& first, cons
 {
     ScriptIterator end = first;
     std::string word;
-    while (end != ScriptIterator()
-           && (std::isalnum(static_cast<unsigned char>(*end)) || *end == '_'))
+    while (!end.atEnd() && (std::isalnum(static_cast<unsigned char>(*end)) || *end == '_'))
         word += *end++;
     ScriptIterator next = end;
-    while (next != ScriptIterator() && std::isspace(static_cast<unsigned char>(*next)))
+    while (!next.atEnd() && std::isspace(static_cast<unsigned char>(*next)))
         ++next;
     // "Name input = ..." or "alias := ..." begin a statement.
     const bool startsStatement =
         FactoryFarmManager::Instance().getFunctorFactory()->isRegistered(word)
-        || (next != ScriptIterator()
+        || (!next.atEnd()
             && (*next == ':' || *next == '_' || std::isalpha(static_cast<unsigned char>(*next))));
     if (!word.empty() && !startsStatement)
         raise(next, "Expecting \"=\" after the input name \"" + word + "\".");
