@@ -25,9 +25,13 @@ public:
     const char* end() const { return end_; }
 
 private:
+    std::vector<const char*>::const_iterator lineAfter(const char* at) const;
+
     const char* end_;
     const char* file_;
     std::vector<const char*> lineStarts_;
+    // Where the last place asked for lay; a text is read by one thread.
+    mutable size_t lastLine_ = 0;
 };
 
 // The iterator that the script grammar reads with. Parsing copies and steps iterators
