@@ -7,12 +7,12 @@
 #include "plugins/io/PrintStringFunctor.h"
 #include "plugins/io/PrintValueFunctor.h"
 #include "plugins/io/SaveTextFunctor.h"
-#include "plugins/io/StringToTextFileDataConverter.h"
 #include "plugins/io/TextFileData.h"
 #include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileReader.h"
 #include "plugins/io/TextFileType.h"
 #include "plugins/prim/FilenameWriter.h"
+#include "plugins/prim/StringToFilenameDataConverter.h"
 
 namespace {
 
@@ -28,7 +28,8 @@ void registerTextFiles(Prim::PrimRegistrar& registrar)
     registrar.registerDataReader<Io::TextFileReader<VRK::PlainScanner>, VRK::PlainScanner>(
         "TextFile", group, VRK::PlainScannerName);
     registrar.registerDataWriter<Prim::FilenameWriter>("TextFile", group);
-    registrar.registerDataConverter<Io::StringToTextFileDataConverter>(group, "String", "TextFile");
+    registrar.registerDataConverter<Prim::StringToFilenameDataConverter<Io::TextFileData>>(
+        group, "String", "TextFile");
 }
 
 } // namespace

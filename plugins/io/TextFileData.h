@@ -19,6 +19,9 @@ public:
     ~TextFileData() override;
 
     const Prim::CompoundFilename& getCompoundFilename() const override { return getValue(); }
+
+    // How messages name a file of this kind.
+    static constexpr const char* kindWord = "text file";
 };
 
 } // namespace Io

@@ -19,6 +19,9 @@ public:
     ~MapFileData() override;
 
     const Prim::CompoundFilename& getCompoundFilename() const override { return getValue(); }
+
+    // How messages name a file of this kind.
+    static constexpr const char* kindWord = "map file";
 };
 
 } // namespace Maps

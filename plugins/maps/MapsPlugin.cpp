@@ -32,6 +32,7 @@
 #include "plugins/maps/TableFileType.h"
 #include "plugins/prim/FilenameWriter.h"
 #include "plugins/prim/PrimRegistrar.h"
+#include "plugins/prim/StringToFilenameDataConverter.h"
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
 
@@ -69,6 +70,11 @@ void registerTypes(Prim::PrimRegistrar& registrar)
                                                                                    "MapFile");
     registerFilenames<Maps::TableFileData, Maps::TableFileEditor, Maps::TableFileReader>(
         registrar, "TableFile");
+    // Names built by CreateString or a numbered registrator feed the file inputs.
+    registrar.registerDataConverter<Prim::StringToFilenameDataConverter<Maps::MapFileData>>(
+        InputOutput, "String", "MapFile");
+    registrar.registerDataConverter<Prim::StringToFilenameDataConverter<Maps::TableFileData>>(
+        InputOutput, "String", "TableFile");
 }
 
 void registerFunctors(Prim::PrimRegistrar& registrar)
