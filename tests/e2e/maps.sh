@@ -53,6 +53,10 @@ for scheduler in sequential parallel; do
 a := LoadMap filename = "a.asc";
 SaveMap map = a.map filename = "copy.asc";
 SaveMap map = a.map filename = "copy.tif";
+name := CreateString format = "named_<v1>.asc" {
+    NumberValue value = 4 valueNumber = 1;
+}
+SaveMap map = a.map filename = name.result;
 Workdir folder = "out" {
     loop := For firstIterationStep = 1 lastIterationStep = 3 {
         SaveMap map = a.map filename = "step_.asc" suffixDigits = 2 step = loop.step;
@@ -62,7 +66,7 @@ SCRIPT
     mkdir "$work/out"
     run_ok "copies" "$scheduler"
     gdal_translate -q -of AAIGrid "$work/copy.tif" "$work/back.asc" || fail "copies: no GeoTIFF"
-    for out in copy.asc back.asc out/step_01.asc out/step_02.asc out/step_03.asc; do
+    for out in copy.asc back.asc named_4.asc out/step_01.asc out/step_02.asc out/step_03.asc; do
         expect_cells "copies ($scheduler)" "$out" plus0 a.asc
     done
 
@@ -238,6 +242,13 @@ a := LoadMap filename = "a.asc";
 SaveMap map = a.map filename = "a.png";
 SCRIPT
 refused "unwritten format" "The \"$work/a.png\" does not represent a supported file format." 2:1 2
+
+fresh <<'SCRIPT'
+a := LoadMap filename = "a.asc";
+empty := CreateString format = "";
+SaveMap map = a.map filename = empty.result;
+SCRIPT
+refused "empty built name" "The run of \"SaveMap\" failed: The input \"filename\" of \"SaveMap\" cannot take the data of the output \"result\" of \"empty\" (CreateString): The map file \"\" is not valid." 3:21 1
 
 fresh <<'SCRIPT'
 LoadMap filename = "missing.asc";
