@@ -13,6 +13,9 @@
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "base/task/TaskCancellation.h"
+#include "base/util/DirectoryStack.h"
+
+#include <boost/filesystem/operations.hpp>
 
 #include <map>
 #include <memory>
@@ -109,6 +112,23 @@ int runScript(VRK::Script& script, const std::string& scheduler, DiagnosticPrint
     return 0;
 }
 
+// Creates the run's folder and makes it the folder of relative outputs; false, with the
+// error printed, when it cannot be created.
+bool enterWorkdir(const std::string& workdir, std::ostream& err)
+{
+    if (workdir.empty())
+        return true;
+    boost::system::error_code error;
+    boost::filesystem::create_directories(workdir, error);
+    if (error || !boost::filesystem::is_directory(workdir)) {
+        err << "vrk: error: The work directory \"" << workdir << "\" cannot be created"
+            << (error ? ": " + error.message() : std::string()) << ".\n";
+        return false;
+    }
+    VRK::DirectoryStack::setRunDirectory(workdir);
+    return true;
+}
+
 } // namespace
 
 std::vector<std::string> RunCommand::getSchedulerChoices()
@@ -122,6 +142,8 @@ std::vector<std::string> RunCommand::getSchedulerChoices()
 int RunCommand::run(const Options& options, std::ostream& err)
 {
     DiagnosticPrinter diagnostics(err);
+    if (!enterWorkdir(options.workdir, err))
+        return 2;
     std::shared_ptr<VRK::Script> script = prepareScript(options, diagnostics);
     if (!script)
         return 2;

@@ -20,6 +20,8 @@ public:
         // "alias.port=VALUE" assignments, applied after the parameter file.
         std::vector<std::string> assignments;
         std::string parameterFile;
+        // The folder that relative outputs go to, created when missing; empty for none.
+        std::string workdir;
     };
 
     // The scheduler names that `Options::scheduler` accepts.

@@ -6,6 +6,7 @@
 #include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
+#include "apps/vrk/SweepCommand.h"
 
 #include "base/error/Exception.h"
 #include "base/log/LogTagInfo.h"
@@ -89,7 +90,24 @@ int runCommandLine(int argc, char** argv)
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     run->add_option("--params", runOptions.parameterFile, "Parameter file to apply");
+    run->add_option("--workdir", runOptions.workdir,
+                    "Folder that relative outputs go to, created when missing");
     commands.push_back({run, [&] { return RunCommand::run(runOptions, std::cerr); }});
+
+    SweepCommand::Options sweepOptions;
+    CLI::App* sweep = app.add_subcommand("sweep", "Run a script once per row of a CSV table");
+    sweep->add_option("model", sweepOptions.model, "The script file")->required();
+    sweep->add_option("table", sweepOptions.table, "CSV of alias.port columns, one run a row")
+        ->required();
+    sweep->add_option("--jobs", sweepOptions.jobs, "Runs at a time (default: processor count)")
+        ->check(CLI::PositiveNumber);
+    sweep->add_option("--out", sweepOptions.out, "Folder of the runs (default runs)");
+    sweep->add_flag("--resume", sweepOptions.resume, "Skip the runs that succeeded before");
+    commands.push_back({sweep, [&] {
+                            sweepOptions.logLevel = logLevel;
+                            sweepOptions.pluginDir = pluginDir;
+                            return SweepCommand::run(sweepOptions, std::cout, std::cerr);
+                        }});
 
     try {
         app.parse(argc, argv);

@@ -16,6 +16,14 @@ public:
 
     // The innermost pushed folder, or the process's current folder.
     static boost::filesystem::path getCurrentDirectory();
+
+    // The folder of a whole run (`vrk run --workdir`); empty, the default, for none.
+    static void setRunDirectory(const boost::filesystem::path& directory);
+    // Where a relative name outside any work directory lies: beside the current folder
+    // when something of that name exists there, else in the run's folder when there is
+    // one, so that a run's outputs land in its folder and the inputs beside the script
+    // are still found.
+    static boost::filesystem::path resolve(const boost::filesystem::path& relative);
 };
 
 } // namespace VRK

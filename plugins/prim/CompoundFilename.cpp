@@ -164,12 +164,12 @@ void CompoundFilename::toStream(std::ostream& out, int) const
 }
 
 // The complete, normalised path of `relative` for `workdir`: the current directory
-// when there is none, the folder of an archive, or the work directory itself.
+// (or the run's folder) when there is none, the folder of an archive, or the work directory itself.
 CompoundFilename::path CompoundFilename::resolveAgainst(const path& relative,
                                                         const Workdir& workdir) const
 {
     if (!workdir)
-        return normalised(VRK::DirectoryStack::getCurrentDirectory() / relative);
+        return normalised(VRK::DirectoryStack::resolve(relative));
     const path base = isArchive(*workdir) ? workdir->parent_path() : *workdir;
     return normalised(base / relative);
 }

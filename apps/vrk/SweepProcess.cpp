@@ -1,0 +1,89 @@
+#include "apps/vrk/SweepProcess.h"
+
+#include <cerrno>
+#include <cstring>
+#include <stdexcept>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// Only async-signal-safe calls between fork and exec.
+[[noreturn]] void becomeRun(const std::vector<char*>& argv, int log)
+{
+    dup2(log, STDOUT_FILENO);
+    dup2(log, STDERR_FILENO);
+    close(log);
+    execv("/proc/self/exe", argv.data());
+    const char message[] = "vrk: error: the run could not be started.\n";
+    ssize_t ignored = write(STDERR_FILENO, message, sizeof(message) - 1);
+    (void)ignored;
+    _exit(127);
+}
+
+} // namespace
+
+SweepProcess::SweepProcess(std::string run, const std::vector<std::string>& arguments,
+                           const std::string& log)
+    : run_(std::move(run)), start_(std::chrono::steady_clock::now())
+{
+    std::vector<std::string> words{"vrk"};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> argv;
+    for (auto& word : words)
+        argv.push_back(&word[0]);
+    argv.push_back(nullptr);
+    const int fd = open(log.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0)
+        throw std::runtime_error("The log \"" + log
+                                 + "\" cannot be written: " + std::strerror(errno) + ".");
+    pid_ = fork();
+    if (pid_ == 0)
+        becomeRun(argv, fd);
+    close(fd);
+    if (pid_ < 0)
+        throw std::runtime_error("The run \"" + run_
+                                 + "\" cannot be started: " + std::strerror(errno) + ".");
+}
+
+bool SweepProcess::poll()
+{
+    if (status_ >= 0)
+        return true;
+    int waitStatus = 0;
+    if (waitpid(pid_, &waitStatus, WNOHANG) != pid_)
+        return false;
+    take(waitStatus);
+    return true;
+}
+
+void SweepProcess::interrupt()
+{
+    if (status_ < 0)
+        kill(pid_, SIGINT);
+}
+
+void SweepProcess::wait()
+{
+    if (status_ >= 0)
+        return;
+    int waitStatus = 0;
+    // A second Ctrl-C, which interrupts the wait, ends this process anyway.
+    while (waitpid(pid_, &waitStatus, 0) < 0 && errno == EINTR) {
+    }
+    take(waitStatus);
+}
+
+double SweepProcess::getSeconds() const
+{
+    return std::chrono::duration<double>(end_ - start_).count();
+}
+
+void SweepProcess::take(int waitStatus)
+{
+    end_ = std::chrono::steady_clock::now();
+    status_ = WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 128 + WTERMSIG(waitStatus);
+}

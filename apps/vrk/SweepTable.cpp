@@ -1,0 +1,147 @@
+#include "apps/vrk/SweepTable.h"
+
+#include "base/error/ExceptionUtils.h"
+#include "base/error/FileNotFoundException.h"
+#include "base/parse/ParseError.h"
+
+#include <algorithm>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+namespace {
+
+const char* const RunColumn = "run";
+
+std::string readText(const std::string& filename)
+{
+    std::ifstream in(filename, std::ios::binary);
+    if (!in)
+        VRK::ExceptionUtils::raise<VRK::FileNotFoundException>("The table \"" + filename
+                                                               + "\" cannot be opened.");
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+std::string trimmed(const std::string& text)
+{
+    const auto first = text.find_first_not_of(" \t");
+    return first == std::string::npos
+               ? std::string()
+               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::string counted(size_t count, const std::string& noun)
+{
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+[[noreturn]] void refuse(const std::string& file, int line, int column, const std::string& message)
+{
+    VRK::ExceptionUtils::raiseAt<VRK::ParseError>(VRK::ScriptPosition{file, line, column}, message);
+}
+
+} // namespace
+
+SweepTable SweepTable::read(const std::string& filename)
+{
+    SweepTable table;
+    table.filename_ = filename;
+    const std::string text = readText(filename);
+    table.source_ = VRK::LineBuffer(text);
+    std::istringstream lines(text);
+    std::string line;
+    for (int number = 1; std::getline(lines, line); ++number) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (trimmed(line).empty())
+            continue;
+        const auto fields = split(line, VRK::ScriptPosition{filename, number, 0});
+        if (table.names_.empty())
+            table.readHeader(fields, number);
+        else
+            table.readRow(fields, number);
+    }
+    if (table.names_.empty())
+        refuse(filename, 1, 1, "The table has no header line naming its alias.port columns.");
+    return table;
+}
+
+// Fields of one CSV line, each with the column where it starts.
+std::vector<SweepTable::Field> SweepTable::split(const std::string& line,
+                                                 const VRK::ScriptPosition& where)
+{
+    std::vector<Field> fields{{"", 1}};
+    bool quoted = false;
+    size_t quoteAt = 0;
+    for (size_t i = 0; i < line.size(); ++i) {
+        const char c = line[i];
+        if (quoted && c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
+            fields.back().text += '"';
+            ++i;
+        } else if (c == '"' && (quoted || trimmed(fields.back().text).empty())) {
+            quoted = !quoted;
+            quoteAt = i;
+            if (quoted)
+                fields.back().text.clear();
+        } else if (c == ',' && !quoted) {
+            fields.push_back({"", static_cast<int>(i) + 2});
+        } else {
+            fields.back().text += c;
+        }
+    }
+    if (quoted)
+        refuse(where.file, where.line, static_cast<int>(quoteAt) + 1,
+               "The quoted value is not closed on its line.");
+    return fields;
+}
+
+void SweepTable::readHeader(const std::vector<Field>& fields, int line)
+{
+    for (const auto& field : fields) {
+        const std::string name = trimmed(field.text);
+        const auto dot = name.find('.');
+        const bool aliasPort = dot != std::string::npos && dot > 0 && dot + 1 < name.size()
+                               && name.find('.', dot + 1) == std::string::npos;
+        if (name == RunColumn && runColumn_ < 0)
+            runColumn_ = static_cast<int>(names_.size());
+        else if (!aliasPort)
+            refuse(filename_, line, field.column,
+                   "The column \"" + name + "\" is not named alias.port or run.");
+        else if (std::find(names_.begin(), names_.end(), name) != names_.end())
+            refuse(filename_, line, field.column, "The column \"" + name + "\" is named twice.");
+        names_.push_back(name);
+        namePositions_.push_back(VRK::ScriptPosition{filename_, line, field.column});
+    }
+}
+
+void SweepTable::readRow(const std::vector<Field>& fields, int line)
+{
+    if (fields.size() != names_.size())
+        refuse(filename_, line, fields.size() > names_.size() ? fields[names_.size()].column : 1,
+               "The row has " + counted(fields.size(), "field") + " where the header names "
+                   + counted(names_.size(), "column") + ".");
+    Row row;
+    row.run = std::to_string(rows_.size() + 1);
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const VRK::ScriptPosition place{filename_, line, fields[i].column};
+        if (static_cast<int>(i) == runColumn_) {
+            row.run = trimmed(fields[i].text);
+            continue;
+        }
+        const auto dot = names_[i].find('.');
+        row.parameters.push_back({names_[i].substr(0, dot), names_[i].substr(dot + 1),
+                                  trimmed(fields[i].text), place, namePositions_[i]});
+    }
+    const bool plain = !row.run.empty() && row.run != "." && row.run != ".."
+                       && row.run.find('/') == std::string::npos;
+    const int runAt = runColumn_ < 0 ? 1 : fields[runColumn_].column;
+    if (!plain)
+        refuse(filename_, line, runAt,
+               "The run name \"" + row.run + "\" is not a plain folder name.");
+    for (const auto& earlier : rows_)
+        if (earlier.run == row.run)
+            refuse(filename_, line, runAt, "The run name \"" + row.run + "\" is used twice.");
+    rows_.push_back(std::move(row));
+}
