@@ -86,13 +86,16 @@ public:
     bool run(std::deque<const Row*> waiting, unsigned int jobs, const VRK::Task& task)
     {
         while (!(waiting.empty() && running_.empty()) && !task.isCancelled()) {
+            const bool ended = collect();
             while (running_.size() < jobs && !waiting.empty()) {
                 start(*waiting.front());
                 waiting.pop_front();
             }
-            collect();
             progress_.update(running_.size());
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            // A run that just ended frees its place at once; otherwise a short nap keeps
+            // the waiting cheap without delaying the next run much.
+            if (!ended)
+                std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
         for (auto& process : running_)
             process.interrupt();
@@ -117,15 +120,19 @@ private:
         running_.emplace_back(row.run, argumentsOf(options_, row, folder), folder + "/log.txt");
     }
 
-    void collect()
+    // Records the runs that ended; true when any did.
+    bool collect()
     {
+        bool ended = false;
         for (auto process = running_.begin(); process != running_.end();)
             if (process->poll()) {
                 record(*process, std::to_string(process->getStatus()));
                 process = running_.erase(process);
+                ended = true;
             } else {
                 ++process;
             }
+        return ended;
     }
 
     void record(const SweepProcess& process, const std::string& status)

@@ -24,8 +24,10 @@ void SweepProgress::finished(const std::string& run, const std::string& status, 
 
 void SweepProgress::update(size_t running)
 {
-    if (!terminal_)
+    const auto now = std::chrono::steady_clock::now();
+    if (!terminal_ || now - drawn_ < std::chrono::milliseconds(200))
         return;
+    drawn_ = now;
     const double seconds = elapsed();
     out_ << '\r' << done_ << " of " << total_ << " done, " << failed_ << " failed, " << running
          << " running, " << std::lround(seconds) << " s elapsed";
@@ -37,8 +39,12 @@ void SweepProgress::update(size_t running)
 
 void SweepProgress::close()
 {
-    if (terminal_)
-        out_ << '\n' << std::flush;
+    if (!terminal_)
+        return;
+    // The last redraw may have been skipped for being too soon.
+    drawn_ = std::chrono::steady_clock::time_point();
+    update(0);
+    out_ << '\n' << std::flush;
 }
 
 double SweepProgress::elapsed() const

@@ -15,9 +15,9 @@ public:
     // `status`: an exit status, or "cancelled" for a run that counts neither as done
     // nor as failed.
     void finished(const std::string& run, const std::string& status, double seconds);
-    // Redraws the terminal line; nothing elsewhere.
+    // Redraws the terminal line, at most a few times a second; nothing elsewhere.
     void update(size_t running);
-    // Ends the terminal line.
+    // Draws the terminal line a last time and ends it.
     void close();
 
 private:
@@ -29,6 +29,7 @@ private:
     size_t done_ = 0;
     size_t failed_ = 0;
     std::chrono::steady_clock::time_point start_;
+    std::chrono::steady_clock::time_point drawn_;
 };
 
 #endif
