@@ -14,6 +14,9 @@ namespace {
 // Only async-signal-safe calls between fork and exec.
 [[noreturn]] void becomeRun(const std::vector<char*>& argv, int log)
 {
+    // Ctrl-C on a terminal then reaches the sweep alone, which passes it on once, rather
+    // than every run twice (a second interruption ends a run without cleaning up).
+    setpgid(0, 0);
     dup2(log, STDOUT_FILENO);
     dup2(log, STDERR_FILENO);
     close(log);

@@ -2,8 +2,8 @@
 # `vrk run --workdir` and `vrk sweep`: relative outputs land in the work directory while
 # inputs beside the script are still read there; a 12-row sweep two at a time gives each
 # run the value of its row; a failing row is recorded and the others complete; a sweep
-# interrupted by Ctrl-C is resumed with only the missing rows; a bad table is refused at
-# its place before any run starts.
+# interrupted by Ctrl-C is resumed with only the missing rows; a run killed by a signal
+# is recorded; a bad table is refused at its place before any run starts.
 set -u
 vrk="$1"
 top=$(mktemp -d)
@@ -86,6 +86,22 @@ touch -d '2000-01-01' slow/1/out.txt
 [ "$(find slow/1/out.txt -newermt 2001-01-01)" = "" ] || fail "resume: run 1 ran again"
 expect_outputs slow ok
 [ "$(grep -c ',0,' slow/summary.csv)" = 12 ] || fail "resume: summary: $(cat slow/summary.csv)"
+
+# A run that dies of a signal is recorded as such and the others complete.
+table 0 ok | sed 's/^3,30,"""0"""/3,30,"""30"""/' > crash.csv
+"$vrk" sweep model/pair.vrk crash.csv --jobs 2 --out crash > crash.log 2>&1 &
+sweep=$!
+victim=
+for _ in $(seq 1 200); do
+    victim=$(pgrep -f -- "--workdir crash/3 ") && break
+    sleep 0.1
+done
+sleep 0.5
+[ -n "$victim" ] && kill -KILL $victim
+wait "$sweep"
+[ $? = 1 ] || fail "crash: the sweep did not end with status 1"
+grep -q '^3,137,.*,The run ended on signal 9\.$' crash/summary.csv || fail "crash: $(cat crash/summary.csv)"
+[ "$(grep -c ',0,' crash/summary.csv)" = 11 ] || fail "crash: the others: $(cat crash/summary.csv)"
 
 # A bad table names its place and starts nothing.
 refused() {
