@@ -21,6 +21,10 @@ SCRIPT
 "$vrk" run model/copy.vrk --workdir out/deeper > /dev/null 2> err.log || fail "run --workdir: $(cat err.log)"
 [ "$(cat out/deeper/copy.txt 2>&1)" = "beside the script" ] || fail "run --workdir: copy.txt not in the folder"
 [ ! -e model/copy.txt ] || fail "run --workdir: copy.txt written beside the script"
+# A work directory that cannot be made stops the run before it reads anything.
+"$vrk" run model/copy.vrk --workdir model/in.txt/sub > /dev/null 2> err.log
+[ $? = 2 ] || fail "run --workdir on a file: status"
+grep -q 'error: The work directory "model/in.txt/sub" cannot be created' err.log || fail "run --workdir on a file: $(cat err.log)"
 
 # The pause lets a sweep be interrupted while runs are under way.
 cat > model/pair.vrk <<'SCRIPT'
