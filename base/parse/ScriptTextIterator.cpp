@@ -9,6 +9,9 @@ namespace VRK {
 ScriptTextLines::ScriptTextLines(const char* begin, const char* end, const char* file)
     : end_(end), file_(file), lineStarts_{begin}
 {
+    // An empty text may have no storage at all, which memchr must not be given.
+    if (begin == end)
+        return;
     if (!std::memchr(begin, '\r', size_t(end - begin))) {
         for (const char* at = begin;
              (at = static_cast<const char*>(std::memchr(at, '\n', size_t(end - at))));)

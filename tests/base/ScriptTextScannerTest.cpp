@@ -48,6 +48,11 @@ TEST(ScriptTextScanner, PositionsCountEveryKindOfLineEnd)
     EXPECT_TRUE(scan.at_end());
     EXPECT_EQ(scan.first.get_position().line, 6);
     EXPECT_EQ(scan.first.get_position().column, 1);
+
+    VRK::ScriptTextScanner empty("", "e.vrk");
+    EXPECT_TRUE(empty.getScanner().at_end());
+    EXPECT_EQ(empty.getScanner().first.get_position().line, 1);
+    EXPECT_EQ(empty.getScanner().first.get_position().column, 1);
 }
 
 } // namespace
