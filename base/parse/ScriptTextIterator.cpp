@@ -43,7 +43,7 @@ ScriptFilePosition ScriptTextLines::positionOf(const char* at) const
     const auto next = lineAfter(at);
     const char* start = *(next - 1);
     int column = int(at - start) + 1;
-    if (at != start && *at == '\n' && at[-1] == '\r')
+    if (at != end_ && at != start && *at == '\n' && at[-1] == '\r')
         --column;
     return ScriptFilePosition(ScriptFileName(file_), int(next - lineStarts_.begin()), column);
 }
