@@ -1,7 +1,6 @@
 #include "base/run/ContainerPlan.h"
 
 #include "base/graph/ContainerFunctor.h"
-#include "base/graph/FunctorWalk.h"
 #include "base/graph/HookFunctor.h"
 #include "base/run/FunctorScheduler.h"
 
