@@ -1,20 +1,22 @@
 #ifndef VRK_APPS_VRK_SWEEPPROCESS_H
 #define VRK_APPS_VRK_SWEEPPROCESS_H
 
+#include "apps/vrk/SweepSummary.h"
+
 #include <chrono>
 #include <string>
-#include <vector>
 
 #include <sys/types.h>
 
-// One run of a sweep: a child process of this same program, its standard output and
-// error going to a log file.
+struct SweepJob;
+
+// One run of a sweep: a child process of this same program in the job's folder, its
+// standard output and error going to the folder's "log.txt".
 class SweepProcess {
 public:
-    // Starts `arguments` (without the program) on this program; throws when the process
-    // or its log cannot be made.
-    SweepProcess(std::string run, const std::vector<std::string>& arguments,
-                 const std::string& log);
+    // Makes the folder and starts the job's arguments on this program; throws when the
+    // folder, the log or the process cannot be made.
+    explicit SweepProcess(const SweepJob& job);
 
     // Whether the process has ended; sets the status then. Never blocks.
     bool poll();
@@ -27,11 +29,14 @@ public:
     // The exit status, or 128 + the number of the signal that ended the process.
     int getStatus() const { return status_; }
     double getSeconds() const;
+    // What the summary tells of the ended run: its status, seconds and first error.
+    SweepSummary::Entry getOutcome() const;
 
 private:
     void take(int waitStatus);
 
     std::string run_;
+    std::string log_;
     pid_t pid_;
     int status_ = -1;
     std::chrono::steady_clock::time_point start_;

@@ -1,0 +1,115 @@
+#include "apps/vrk/SweepSession.h"
+
+#include "apps/vrk/DiagnosticPrinter.h"
+#include "apps/vrk/InterruptGuard.h"
+#include "apps/vrk/SweepProgress.h"
+#include "apps/vrk/SweepRunner.h"
+#include "apps/vrk/SweepSummary.h"
+#include "apps/vrk/SweepTable.h"
+
+#include "base/error/Exception.h"
+#include "base/script/Script.h"
+#include "base/script/ScriptFiles.h"
+#include "base/script/ScriptParameters.h"
+#include "base/task/Task.h"
+
+#include <boost/filesystem/operations.hpp>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+#include <unistd.h>
+
+SweepSession::SweepSession(const SweepCommand::Options& options, std::ostream& out,
+                           std::ostream& err)
+    : options_(options), out_(out), err_(err)
+{
+}
+
+SweepSession::~SweepSession() = default;
+
+bool SweepSession::readTable()
+{
+    DiagnosticPrinter diagnostics(err_);
+    std::string concerned = options_.model;
+    try {
+        std::shared_ptr<VRK::Script> script = VRK::ScriptFiles::read(options_.model);
+        diagnostics.addSource(options_.model, script->getSource());
+        concerned = options_.table;
+        auto table = std::make_unique<SweepTable>(SweepTable::read(options_.table));
+        diagnostics.addSource(options_.table, table->getSource());
+        for (const SweepTable::Row& row : table->getRows())
+            VRK::ScriptParameters::apply(*script, row.parameters);
+        table_ = std::move(table);
+        return true;
+    } catch (const VRK::Exception& error) {
+        diagnostics.print(error, concerned);
+        return false;
+    }
+}
+
+int SweepSession::run(SweepSlots* remote)
+{
+    boost::filesystem::create_directories(options_.out);
+    std::vector<std::string> order;
+    for (const SweepTable::Row& row : table_->getRows())
+        order.push_back(row.run);
+    summary_ = std::make_unique<SweepSummary>(
+        (boost::filesystem::path(options_.out) / "summary.csv").string(), order);
+    if (options_.resume)
+        summary_->load();
+    std::deque<SweepJob> waiting;
+    for (const SweepTable::Row& row : table_->getRows())
+        if (!summary_->succeeded(row.run))
+            waiting.push_back(SweepJob::of(options_, row));
+    progress_ = std::make_unique<SweepProgress>(out_, isatty(STDOUT_FILENO) == 1, waiting.size());
+    const unsigned int jobs =
+        options_.jobs > 0 ? options_.jobs : std::max(1u, std::thread::hardware_concurrency());
+    SweepRunner local(jobs);
+    std::vector<SweepSlots*> slots{&local};
+    if (remote)
+        slots.push_back(remote);
+    VRK::Task task;
+    InterruptGuard interrupt(task);
+    schedule(std::move(waiting), slots, task);
+    progress_->close();
+    if (task.isCancelled()) {
+        err_ << "vrk: the sweep was cancelled.\n";
+        return interrupt.getCancelledStatus();
+    }
+    return failed_ ? 1 : 0;
+}
+
+void SweepSession::record(const std::string& run, const SweepSummary::Entry& entry)
+{
+    failed_ = failed_ || entry.status != "0";
+    summary_->record(run, entry);
+    progress_->finished(run, entry.status, entry.seconds);
+}
+
+void SweepSession::schedule(std::deque<SweepJob> waiting, const std::vector<SweepSlots*>& slots,
+                            const VRK::Task& task)
+{
+    const auto running = [&slots] {
+        size_t count = 0;
+        for (const SweepSlots* place : slots)
+            count += place->getRunning();
+        return count;
+    };
+    while (!(waiting.empty() && running() == 0) && !task.isCancelled()) {
+        bool ended = false;
+        for (SweepSlots* place : slots)
+            ended = place->collect(*this) || ended;
+        for (SweepSlots* place : slots)
+            for (; place->hasRoom() && !waiting.empty(); waiting.pop_front())
+                place->start(waiting.front());
+        progress_->update(running());
+        // A run that just ended frees its place at once; otherwise a short nap keeps the
+        // waiting cheap without delaying the next run much.
+        if (!ended)
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    for (SweepSlots* place : slots)
+        place->cancel(*this);
+}
