@@ -7,6 +7,8 @@
 // `vrk sweep MODEL TABLE`: one `vrk run MODEL --workdir OUT/<run> --set ...` per row of
 // the table, `jobs` at a time, each run's output in OUT/<run>/log.txt and its outcome
 // in OUT/summary.csv. The whole table is checked against the model before any run.
+// Started by mpirun on more than one rank, it spreads the rows over the ranks when vrk
+// was built with MPI, and refuses to start otherwise.
 class SweepCommand {
 public:
     struct Options {

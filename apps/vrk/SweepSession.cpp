@@ -63,13 +63,18 @@ int SweepSession::run(SweepSlots* remote)
     for (const SweepTable::Row& row : table_->getRows())
         if (!summary_->succeeded(row.run))
             waiting.push_back(SweepJob::of(options_, row));
-    progress_ = std::make_unique<SweepProgress>(out_, isatty(STDOUT_FILENO) == 1, waiting.size());
+    // Under mpirun, rank 0 writes to a terminal that mpirun makes, whatever its own
+    // output is: plain lines then.
+    const bool terminal = !remote && isatty(STDOUT_FILENO) == 1;
+    progress_ = std::make_unique<SweepProgress>(out_, terminal, waiting.size());
     const unsigned int jobs =
         options_.jobs > 0 ? options_.jobs : std::max(1u, std::thread::hardware_concurrency());
     SweepRunner local(jobs);
+    // Other ranks first: cancelling them takes no time, while this process's own runs
+    // are waited for, and mpirun kills every rank soon after it interrupts them.
     std::vector<SweepSlots*> slots{&local};
     if (remote)
-        slots.push_back(remote);
+        slots.insert(slots.begin(), remote);
     VRK::Task task;
     InterruptGuard interrupt(task);
     schedule(std::move(waiting), slots, task);
@@ -110,6 +115,7 @@ void SweepSession::schedule(std::deque<SweepJob> waiting, const std::vector<Swee
         if (!ended)
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
-    for (SweepSlots* place : slots)
-        place->cancel(*this);
+    if (task.isCancelled())
+        for (SweepSlots* place : slots)
+            place->cancel(*this);
 }

@@ -1,0 +1,64 @@
+#include "apps/vrk/mpi/SweepRankWorker.h"
+
+#include "apps/vrk/InterruptGuard.h"
+#include "apps/vrk/SweepJob.h"
+#include "apps/vrk/SweepRunner.h"
+#include "apps/vrk/mpi/SweepRankLink.h"
+
+#include "base/task/Task.h"
+
+#include <chrono>
+#include <exception>
+#include <thread>
+
+namespace {
+
+// No rank runs more than rank 0 sends it, which counts each rank's runs.
+const unsigned int Unbounded = ~0u;
+
+} // namespace
+
+SweepRankWorker::SweepRankWorker(SweepRankLink& link) : link_(link) {}
+
+int SweepRankWorker::run()
+{
+    using Clock = std::chrono::steady_clock;
+    VRK::Task task;
+    InterruptGuard interrupt(task);
+    SweepRunner runner(Unbounded);
+    Clock::time_point told;
+    for (;;) {
+        if (task.isCancelled()) {
+            runner.cancel(*this);
+            return interrupt.getCancelledStatus();
+        }
+        SweepRankLink::Message message;
+        while (link_.receive(message)) {
+            if (message.tag == SweepRankLink::Tag::Cancel) {
+                runner.cancel(*this);
+                return interrupt.getCancelledStatus();
+            }
+            if (message.tag == SweepRankLink::Tag::End)
+                return std::stoi(message.words.at(0));
+            const SweepJob job = SweepJob::fromWords(message.words);
+            try {
+                runner.start(job);
+            } catch (const std::exception& error) {
+                record(job.run, {"1", 0, std::string("vrk: error: ") + error.what()});
+            }
+        }
+        const bool ended = runner.collect(*this);
+        if (Clock::now() - told > std::chrono::milliseconds(500)) {
+            link_.send(0, SweepRankLink::Tag::Alive, {});
+            told = Clock::now();
+        }
+        if (!ended)
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+}
+
+void SweepRankWorker::record(const std::string& run, const SweepSummary::Entry& entry)
+{
+    link_.send(0, SweepRankLink::Tag::Outcome,
+               {run, entry.status, std::to_string(entry.seconds), entry.error});
+}

@@ -1,0 +1,24 @@
+#ifndef VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
+#define VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
+
+#include "apps/vrk/SweepRecorder.h"
+
+class SweepRankLink;
+
+// What a rank other than 0 does in a sweep: it runs the jobs that rank 0 sends as its
+// own child processes, sends back each outcome and a sign of life every half second,
+// until rank 0 ends or cancels the sweep or a signal cancels it here.
+class SweepRankWorker : public SweepRecorder {
+public:
+    explicit SweepRankWorker(SweepRankLink& link);
+
+    // Returns the status to exit with: rank 0's at the end, 128 + the signal's number
+    // when cancelled.
+    int run();
+    void record(const std::string& run, const SweepSummary::Entry& entry) override;
+
+private:
+    SweepRankLink& link_;
+};
+
+#endif
