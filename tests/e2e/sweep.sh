@@ -6,13 +6,8 @@
 # is recorded; a bad table is refused at its place before any run starts.
 set -u
 vrk="$1"
-top=$(mktemp -d)
-trap 'rm -rf "$top"' EXIT
-cd "$top"
-failed=0
-fail() { echo "FAIL $*"; failed=1; }
+. "$(dirname "$0")/sweep_common.sh"
 
-mkdir model
 echo "beside the script" > model/in.txt
 cat > model/copy.vrk <<'SCRIPT'
 load := LoadText filename = "in.txt";
@@ -25,33 +20,6 @@ SCRIPT
 "$vrk" run model/copy.vrk --workdir model/in.txt/sub > /dev/null 2> err.log
 [ $? = 2 ] || fail "run --workdir on a file: status"
 grep -q 'error: The work directory "model/in.txt/sub" cannot be created' err.log || fail "run --workdir on a file: $(cat err.log)"
-
-# The pause lets a sweep be interrupted while runs are under way.
-cat > model/pair.vrk <<'SCRIPT'
-pause := RunExternalProcess fileName = "sleep" parameters = "0";
-text := CreateString format = "<v1> <v2>" {
-    a := NumberValue value = 1 valueNumber = 1;
-    b := NumberValue value = 2 valueNumber = 2;
-}
-save := SaveText text = text.result filename = "out.txt";
-SCRIPT
-# $1: the pause of rows 5 to 12; row 7 writes into a missing folder when $2 says so.
-table() {
-    echo "a.value,b.value,pause.parameters,save.filename"
-    for i in $(seq 1 12); do
-        local pause=0 file=out.txt
-        [ "$i" -gt 4 ] && pause=$1
-        [ "$i" = 7 ] && [ "$2" = fail ] && file=missing/out.txt
-        echo "$i,$((i * 10)),\"\"\"$pause\"\"\",\"\"\"$file\"\"\""
-    done
-}
-expect_outputs() {
-    for i in $(seq 1 12); do
-        [ "$i" = 7 ] && [ "$2" = fail ] && continue
-        [ "$(cat "$1/$i/out.txt" 2>&1)" = "$i $((i * 10))" ] || fail "$1: run $i wrote $(cat "$1/$i/out.txt" 2>&1)"
-    done
-}
-status_of() { awk -F, -v run="$2" '$1 == run { print $2 }' "$1/summary.csv"; }
 
 table 0 ok > ok.csv
 "$vrk" sweep model/pair.vrk ok.csv --jobs 2 --out ok > ok.log 2>&1 || fail "sweep: status $?: $(cat ok.log)"
