@@ -3,7 +3,9 @@
 
 #include "tessaly/images/BlockStep.h"
 #include "tessaly/images/FocalColumns.h"
+#include "tessaly/images/FusedFormula.h"
 
+#include <memory>
 #include <vector>
 
 namespace Tessaly {
@@ -24,6 +26,9 @@ public:
     void setResult(Operand result) { result_ = result; }
     // A place for a focal step's column totals in each thread's frame.
     int addFocalColumns(bool nonZero);
+    // The whole formula as one fused kernel, tried before the steps.
+    void setFused(std::unique_ptr<FusedFormula> fused) { fused_ = std::move(fused); }
+    const FusedFormula* getFused() const { return fused_.get(); }
 
     int getRegisterCount() const { return registerCount_; }
     Operand getResult() const { return result_; }
@@ -43,6 +48,7 @@ private:
     std::vector<Scalar> scalars_;
     std::vector<BlockStepPtr> steps_;
     std::vector<bool> focalColumnsNonZero_;
+    std::unique_ptr<FusedFormula> fused_;
     int registerCount_ = 0;
     Operand result_;
 };

@@ -155,8 +155,24 @@ std::unique_ptr<BlockProgram> BlockProgramCompiler::compile(const TopLevelImageE
 {
     assert(formula.isCompiled() && "formula.isCompiled()");
     BlockProgramCompiler compiler(formula.getDictionary().getCount(EntityKind::Image));
+    compiler.program_->setFused(FusedFormula::match(
+        formula.getRoot(), [&compiler](const ImageExpression& node, FusedFormula::Leaf& leaf) {
+            return compiler.findFusedLeaf(node, leaf);
+        }));
     compiler.program_->setResult(compiler.compileNode(formula.getRoot()));
     return std::move(compiler.program_);
+}
+
+bool BlockProgramCompiler::findFusedLeaf(const ImageExpression& node, FusedFormula::Leaf& leaf)
+{
+    if (isNamed(node, "ImageValue")) {
+        leaf.image = indexOf(node);
+        return true;
+    }
+    if (anyInTree(node, variesByCell))
+        return false;
+    leaf.scalar = compileNode(node).slot;
+    return true;
 }
 
 Operand BlockProgramCompiler::compileNode(const ImageExpression& node)

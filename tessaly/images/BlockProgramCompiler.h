@@ -28,6 +28,7 @@ public:
 private:
     explicit BlockProgramCompiler(int imageCount) : imageCount_(imageCount) {}
 
+    bool findFusedLeaf(const ImageExpression& node, FusedFormula::Leaf& leaf);
     Operand compileNode(const ImageExpression& node);
     Operand compileCellNode(const ImageExpression& node);
     Operand compileSelect(const ImageExpression& node);

@@ -96,7 +96,17 @@ TESSALY_UNARY(Signal, return std::isnan(x) ? x : truth(x > 0) - truth(x < 0);)
         static constexpr const char* Name = #NAME;                                               \
         static double apply(double a, double b) { BODY }                                         \
     };
-#define TESSALY_LOGICAL(NAME, RESULT) TESSALY_BINARY(NAME, return eitherNull(a, b) ? Null : truth(RESULT);)
+// `holds` is the test alone, for the kernels that select on it without making a truth
+// value first.
+#define TESSALY_LOGICAL(NAME, RESULT)                                                              \
+    struct NAME {                                                                                  \
+        static constexpr const char* Name = #NAME;                                                 \
+        static bool holds(double a, double b) { return RESULT; }                                   \
+        static double apply(double a, double b)                                                    \
+        {                                                                                          \
+            return eitherNull(a, b) ? Null : truth(RESULT);                                        \
+        }                                                                                          \
+    };
 TESSALY_LOGICAL(BooleanOr, a != 0 || b != 0)
 TESSALY_LOGICAL(BooleanAnd, a != 0 && b != 0)
 TESSALY_LOGICAL(Equal, a == b)

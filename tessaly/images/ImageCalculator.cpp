@@ -79,6 +79,11 @@ void ImageCalculator::Program::checkInputs(const ImageCalculationInputs& inputs)
 void ImageCalculator::Program::runTile(const CalculationData& data, int firstLine, int endLine,
                                        Raster& result) const
 {
+    const FusedFormula* fused = blocks->getFused();
+    if (fused && fused->fits(data, result.getCellType())) {
+        fused->runLines(data, firstLine, endLine, result);
+        return;
+    }
     std::vector<double> registers(size_t(blocks->getRegisterCount()) * BlockCells);
     std::vector<double> scratch;
     std::vector<double> filled;

@@ -1,0 +1,110 @@
+#include "tessaly/images/FusedFormula.h"
+
+#include "tessaly/images/BlockFrame.h"
+#include "tessaly/images/CalculationData.h"
+#include "tessaly/images/ImageExpression.h"
+#include "tessaly/images/VectorKernel.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace Tessaly {
+
+namespace {
+
+const double NoNoData = std::numeric_limits<double>::quiet_NaN();
+
+// Narrowed first, then selected in float, as Raster::writeCells does.
+TESSALY_VECTOR_KERNEL void narrow(const double* __restrict in, int count, float noData,
+                                  float* __restrict out)
+{
+    for (int i = 0; i < count; ++i) {
+        const float narrowed = static_cast<float>(in[i]);
+        out[i] = narrowed != narrowed ? noData : narrowed;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<FusedFormula> FusedFormula::match(const ImageExpression& root,
+                                                  const LeafFinder& findLeaf)
+{
+    std::unique_ptr<FusedFormula> fused(new FusedFormula());
+    const std::string signature = fused->signatureOf(root, findLeaf);
+    fused->kernel_ = signature.empty() ? nullptr : FusedKernels::find(signature);
+    return fused->kernel_ ? std::move(fused) : nullptr;
+}
+
+// The node's shape signature, its leaves numbered as they come; empty when some node
+// is neither a leaf nor an operator, or the leaves are too many.
+std::string FusedFormula::signatureOf(const ImageExpression& node, const LeafFinder& findLeaf)
+{
+    Leaf leaf;
+    if (findLeaf(node, leaf))
+        return nameLeaf(leaf);
+    if (node.getChildCount() == 0)
+        return {};
+    std::string signature = std::string(node.getName()) + "(";
+    for (size_t i = 0; i < node.getChildCount(); ++i) {
+        const std::string child = signatureOf(node.getChild(i), findLeaf);
+        if (child.empty())
+            return {};
+        signature += (i ? "," : "") + child;
+    }
+    return signature + ")";
+}
+
+std::string FusedFormula::nameLeaf(const Leaf& leaf)
+{
+    std::vector<int>& leaves = leaf.image ? images_ : scalars_;
+    const int value = leaf.image ? leaf.image : leaf.scalar;
+    auto known = std::find(leaves.begin(), leaves.end(), value);
+    if (!leaf.image || known == leaves.end()) {
+        if (leaves.size() == size_t(FusedShapes::MaxLeaves))
+            return {};
+        known = leaves.insert(leaves.end(), value);
+    }
+    return (leaf.image ? "I" : "S") + std::to_string(known - leaves.begin());
+}
+
+bool FusedFormula::fits(const CalculationData& data, CellType resultType) const
+{
+    if (resultType != CellType::Float32)
+        return false;
+    for (int image : images_)
+        if (data.rasters[size_t(image - 1)]->getCellType() != CellType::Float32)
+            return false;
+    return true;
+}
+
+void FusedFormula::runLines(const CalculationData& data, int firstLine, int endLine,
+                            Raster& result) const
+{
+    assert(result.hasNoData() && "a calculated raster has NoData");
+    FusedShapes::Leaves leaves{};
+    for (size_t k = 0; k < scalars_.size(); ++k)
+        leaves.scalars[k] = data.scalars[size_t(scalars_[k])];
+    for (size_t k = 0; k < images_.size(); ++k) {
+        const Raster& raster = *data.rasters[size_t(images_[k] - 1)];
+        leaves.noData[k] = raster.hasNoData()
+                               ? static_cast<double>(static_cast<float>(raster.getNoData()))
+                               : NoNoData;
+    }
+    double values[BlockCells];
+    const int columns = result.getColumnCount();
+    const float resultNoData = static_cast<float>(result.getNoData());
+    for (int line = firstLine; line < endLine; ++line)
+        for (int column = 0; column < columns; column += BlockCells) {
+            const size_t first = size_t(line) * size_t(columns) + size_t(column);
+            for (size_t k = 0; k < images_.size(); ++k)
+                leaves.cells[k] = data.rasters[size_t(images_[k] - 1)]->cells<float>() + first;
+            const int count = std::min(BlockCells, columns - column);
+            kernel_(leaves, count, values);
+            narrow(values, count, resultNoData, result.cells<float>() + first);
+        }
+}
+
+} // namespace Tessaly

@@ -1,0 +1,24 @@
+#ifndef VRK_TESSALY_IMAGES_FUSEDKERNELS_H
+#define VRK_TESSALY_IMAGES_FUSEDKERNELS_H
+
+#include "tessaly/images/FusedShapes.h"
+
+#include <string>
+
+namespace Tessaly {
+
+// The fused kernels, one per shape of FusedShapes that formulas commonly take:
+// arithmetic on an image and a scalar or two images, chains of two such operations,
+// and ifs on a comparison of an image with a scalar or an image whose branches are
+// leaves or such arithmetic. A kernel fills `count` doubles from the leaves.
+class FusedKernels {
+public:
+    using Kernel = void (*)(const FusedShapes::Leaves& leaves, int count, double* out);
+
+    // The kernel of a shape signature ("Plus(Times(I0,S0),I1)"), or null.
+    static Kernel find(const std::string& signature);
+};
+
+} // namespace Tessaly
+
+#endif

@@ -1,0 +1,73 @@
+#include "tessaly/images/BlockProgramCompiler.h"
+#include "tests/tessaly/CalculatorReference.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace Tessaly {
+namespace {
+
+using namespace Testing;
+
+// The formulas that the fused kernels take, each one: their cells must be those of the
+// block program, bit for bit. The block program runs when an input is not Float32, so
+// it is given Float64 copies of the same maps.
+TEST(FusedFormulaTest, FusedKernelsGiveTheCellsOfTheBlockProgram)
+{
+    const char* const formulas[] = {"i1 * 2",
+                                    "3 - i1",
+                                    "i1 + i2",
+                                    "i1 * 2 + i2",
+                                    "(i1 - 1) * 0.1",
+                                    "(i1 + i2) * v1",
+                                    "(i1 - i2) + 0.3",
+                                    "i2 - i1 * 0.3",
+                                    "if i1 > 0 then i1 * 2 + i2 else 0",
+                                    "if i1 <= 1.5 then i1 else -1",
+                                    "if i1 <> 0 then 1 else i1",
+                                    "if i1 == 2 then 5 else v1",
+                                    "if i1 < i2 then i1 else i2",
+                                    "if i1 >= 0.3 then i2 else 4",
+                                    "if i1 > 0 then i2 else i1",
+                                    "if i1 < 1 then i1 - 0.7 else 9",
+                                    "if i1 >= 1 then i1 * i2 else 3",
+                                    "if i2 <> 0 then 2 else i2 + 0.1"};
+    unsigned seed = 11;
+    for (const auto& shape :
+         std::vector<std::pair<int, int>>{{1, 1}, {3, 255}, {2, 257}, {2, 700}}) {
+        const TestMap a = TestMap::random(shape.first, shape.second, seed++);
+        const TestMap b = TestMap::random(shape.first, shape.second, seed++);
+        const Raster f1 = a.toRaster(CellType::Float32, -9999);
+        const Raster f2 = b.toRaster(CellType::Float32, Null);
+        const Raster d1 = a.toRaster(CellType::Float64, -9999);
+        const Raster d2 = b.toRaster(CellType::Float64, Null);
+        const TestInputs floats{{{"i1", &f1}, {"i2", &f2}}, {{"v1", 0.7}}, {}};
+        const TestInputs doubles{{{"i1", &d1}, {"i2", &d2}}, {{"v1", 0.7}}, {}};
+        for (const char* text : formulas) {
+            const auto formula = compiledFormula(text);
+            EXPECT_NE(BlockProgramCompiler::compile(*formula)->getFused(), nullptr) << text;
+            const ImageCalculator calculator(*formula);
+            const auto& names = formula->getDictionary();
+            const Raster fused =
+                calculator.calculate(floats.forFormula(names), CellType::Float32, 2, {});
+            const Raster blocks =
+                calculator.calculate(doubles.forFormula(names), CellType::Float32, 2, {});
+            EXPECT_EQ(std::memcmp(fused.rawCells(), blocks.rawCells(),
+                                  size_t(a.lines) * size_t(a.columns) * sizeof(float)),
+                      0)
+                << text << " on " << a.lines << " x " << a.columns;
+        }
+    }
+}
+
+TEST(FusedFormulaTest, OtherShapesAreLeftToTheBlockProgram)
+{
+    for (const char* text : {"sqrt(i1) * 2", "i1 * i2 - i1", "if i1 > 0 then i1 / 2 else 0",
+                             "if i1 and i2 then 1 else 0", "i1 + i2 + i3 + i4 + i5", "i1"})
+        EXPECT_EQ(BlockProgramCompiler::compile(*compiledFormula(text))->getFused(), nullptr)
+            << text;
+}
+
+} // namespace
+} // namespace Tessaly
