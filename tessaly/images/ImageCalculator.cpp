@@ -12,6 +12,7 @@
 #include <tbb/task_arena.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cassert>
 #include <cmath>
 #include <limits>
@@ -36,6 +37,34 @@ double resultNoData(const Raster& first, CellType cellType)
     return cellType != CellType::Int32 || fitsInt32 ? noData : DefaultNoData;
 }
 
+// The caller's checkpoint, made before every block (or line) so that a cancelled run is
+// heard within a fraction of a second even where each cell takes long. Once it has
+// thrown on one thread, the others stop at their next block on a flag, without calling
+// it again, and leave that first exception to reach the caller.
+class Checkpoint {
+public:
+    explicit Checkpoint(const std::function<void()>& checkpoint) : checkpoint_(checkpoint) {}
+    // False when another thread's checkpoint has thrown.
+    bool proceed() const
+    {
+        if (stopped_.load(std::memory_order_relaxed))
+            return false;
+        if (!checkpoint_)
+            return true;
+        try {
+            checkpoint_();
+        } catch (...) {
+            stopped_.store(true, std::memory_order_relaxed);
+            throw;
+        }
+        return true;
+    }
+
+private:
+    const std::function<void()>& checkpoint_;
+    mutable std::atomic<bool> stopped_{false};
+};
+
 } // namespace
 
 struct ImageCalculator::Program {
@@ -43,7 +72,8 @@ struct ImageCalculator::Program {
     std::unique_ptr<BlockProgram> blocks;
 
     void checkInputs(const ImageCalculationInputs& inputs) const;
-    void runTile(const CalculationData& data, int firstLine, int endLine, Raster& result) const;
+    void runTile(const CalculationData& data, int firstLine, int endLine, Raster& result,
+                 const Checkpoint& checkpoint) const;
 };
 
 ImageCalculator::ImageCalculator(const TopLevelImageExpression& compiledFormula)
@@ -77,11 +107,12 @@ void ImageCalculator::Program::checkInputs(const ImageCalculationInputs& inputs)
 }
 
 void ImageCalculator::Program::runTile(const CalculationData& data, int firstLine, int endLine,
-                                       Raster& result) const
+                                       Raster& result, const Checkpoint& checkpoint) const
 {
     const FusedFormula* fused = blocks->getFused();
     if (fused && fused->fits(data, result.getCellType())) {
-        fused->runLines(data, firstLine, endLine, result);
+        for (int line = firstLine; line < endLine && checkpoint.proceed(); ++line)
+            fused->runLines(data, line, line + 1, result);
         return;
     }
     std::vector<double> registers(size_t(blocks->getRegisterCount()) * BlockCells);
@@ -92,6 +123,8 @@ void ImageCalculator::Program::runTile(const CalculationData& data, int firstLin
     const int columns = result.getColumnCount();
     for (int line = firstLine; line < endLine; ++line)
         for (int column = 0; column < columns; column += BlockCells) {
+            if (!checkpoint.proceed())
+                return;
             BlockFrame frame{data,
                              registers,
                              scratch,
@@ -126,16 +159,14 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
     const int allowed =
         int(tbb::global_control::active_value(tbb::global_control::max_allowed_parallelism));
     tbb::task_arena arena(std::max(1, std::min(processors, allowed)));
+    const Checkpoint check(checkpoint);
     try {
         arena.execute([&] {
             tbb::parallel_for(
                 tbb::blocked_range<int>(0, tiles, 1), [&](const tbb::blocked_range<int>& range) {
-                    for (int tile = range.begin(); tile < range.end(); ++tile) {
-                        if (checkpoint)
-                            checkpoint();
+                    for (int tile = range.begin(); tile < range.end(); ++tile)
                         program_->runTile(data, tile * tileLines,
-                                          std::min(lines, (tile + 1) * tileLines), result);
-                    }
+                                          std::min(lines, (tile + 1) * tileLines), result, check);
                 });
         });
     } catch (const AbortRequest&) {

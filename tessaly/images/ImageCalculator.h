@@ -23,8 +23,9 @@ struct ImageCalculationInputs {
 // Evaluates a compiled formula over every cell of the first image's grid, block by
 // block, in tiles of lines spread over at most `processors` threads. Every image must
 // lie on the first image's grid (refused with an exception naming both grids).
-// `checkpoint` is called between tiles, so that a cancelled run stops a long
-// calculation; whatever it throws ends the calculation.
+// `checkpoint` is called before every block of cells, from every thread, so that a
+// cancelled run stops a long calculation soon; it must be cheap and safe to call from
+// several threads at once. Whatever it throws ends the calculation.
 class ImageCalculator {
 public:
     // The calculator refers to the formula's tree: the formula must outlive it.

@@ -340,6 +340,38 @@ TEST(ImageCalculatorTest, CheckpointAndAbortStopTheCalculation)
     }
 }
 
+// A formula worked out cell by cell over a large window takes long per tile: the
+// checkpoint must be heard inside a tile, so a calculation that it stops makes no call
+// after the one that threw (on one thread), where a whole run makes one per block.
+TEST(ImageCalculatorTest, CheckpointIsHeardInsideATile)
+{
+    const Raster oneTile = TestMap::random(16, 1024, 5).toRaster(CellType::Float32, -9999);
+    const Raster twoTiles = TestMap::random(128, 1024, 6).toRaster(CellType::Float32, -9999);
+    for (const char* text : {"nbmedian(i1, 9, 9, 4, 4)", "i1 * 2 + 1"}) {
+        const auto formula = compiledFormula(text);
+        const ImageCalculator calculator(*formula);
+        std::atomic<int> calls{0};
+        calculator.calculate({{&oneTile}, {}, {}}, CellType::Float32, 1, [&calls] { ++calls; });
+        EXPECT_GE(calls.load(), 16) << text;
+        const auto stopAtThird = [&calls] {
+            if (++calls == 3)
+                throw std::runtime_error("cancelled");
+        };
+        calls = 0;
+        EXPECT_THROW(calculator.calculate({{&oneTile}, {}, {}}, CellType::Float32, 1, stopAtThird),
+                     std::runtime_error)
+            << text;
+        EXPECT_EQ(calls.load(), 3) << text;
+        // The other thread may be inside one call as the first throws; it then stops at
+        // its next block without calling again.
+        calls = 0;
+        EXPECT_THROW(calculator.calculate({{&twoTiles}, {}, {}}, CellType::Float32, 2, stopAtThird),
+                     std::runtime_error)
+            << text;
+        EXPECT_LE(calls.load(), 4) << text;
+    }
+}
+
 TEST(ImageCalculatorTest, CategoricalResultsRoundHalvesAwayFromZeroAndKeepNoData)
 {
     const TestMap a = TestMap::random(5, 40, 4);
