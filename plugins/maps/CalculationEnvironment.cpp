@@ -106,6 +106,9 @@ std::vector<const T*> CalculationEnvironment::flattenEntities(
     }
     std::vector<double> used;
     const Tessaly::ImageExpressionDictionary& dictionary = expression.getDictionary();
+    Prim::PrimEnvironmentUtils::checkNumbersAreSequential(
+        expression.getDependencies(kind),
+        [&](int index) { return dictionary.getNumber(kind, index); });
     Prim::PrimEnvironmentUtils::flattenValueEnvironment(
         used, places, expression.getDependencies(kind),
         [&](int index) { return dictionary.getName(kind, index); });

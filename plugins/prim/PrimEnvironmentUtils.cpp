@@ -21,6 +21,13 @@ const char* const ValuePort = "value";
 const char* const NumberPort = "valueNumber";
 const char* const NamePort = "valueName";
 
+[[noreturn]] void raiseIndexGap(int index, int expected)
+{
+    VRK::ExceptionUtils::raise<VRK::Exception>(
+        "Index " + std::to_string(index) + " used by expression must be changed to "
+        + std::to_string(expected) + ". Map, table and value indexes must be sequential.");
+}
+
 void logEntities(const std::vector<double>& values)
 {
     VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
@@ -62,6 +69,19 @@ void PrimEnvironmentUtils::registerValuesInEnvironment2(std::map<std::string, do
         [](int number) { return "v" + std::to_string(number); });
 }
 
+void PrimEnvironmentUtils::checkNumbersAreSequential(const std::set<int>& indexes,
+                                                     const std::function<int(int)>& numberOf)
+{
+    std::set<int> numbers;
+    for (int index : indexes)
+        if (const int number = numberOf(index))
+            numbers.insert(number);
+    int expected = 1;
+    for (int number : numbers)
+        if (number != expected++)
+            raiseIndexGap(number, expected - 1);
+}
+
 void PrimEnvironmentUtils::flattenValueEnvironment(
     std::vector<double>& out, const std::map<std::string, double>& env,
     const std::set<int>& indexes, const std::function<std::string(int)>& variableName)
@@ -72,11 +92,8 @@ void PrimEnvironmentUtils::flattenValueEnvironment(
         if (found == env.end())
             VRK::ExceptionUtils::raise<VRK::Exception>("Undefined key \"" + name
                                                        + "\" used by expression.");
-        const size_t expected = out.size() + 1;
-        if (size_t(index) != expected)
-            VRK::ExceptionUtils::raise<VRK::Exception>(
-                "Index " + std::to_string(index) + " used by expression must be changed to "
-                + std::to_string(expected) + ". Map, table and value indexes must be sequential.");
+        if (size_t(index) != out.size() + 1)
+            raiseIndexGap(index, int(out.size()) + 1);
         out.push_back(found->second);
     }
     logEntities(out);
@@ -89,6 +106,9 @@ void PrimEnvironmentUtils::flattenValueEnvironment(
 {
     std::set<int> indexes;
     expression.getValueDependencies(indexes);
+    checkNumbersAreSequential(indexes, [&](int index) {
+        return dictionary.getNumber(Tessaly::EntityKind::Value, index);
+    });
     flattenValueEnvironment(out, env, indexes,
                             [&](int index) { return dictionary.getVariableName(index); });
 }

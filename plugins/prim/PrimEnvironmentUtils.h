@@ -36,7 +36,12 @@ public:
                                         const std::map<std::string, double>& env,
                                         const std::set<int>& indexes,
                                         const std::function<std::string(int)>& variableName);
-    // The same for the values that `expression` uses, named by `dictionary`.
+    // Refuses, with the index message, numbers (by index, 0 for an entity named by
+    // name) that do not run 1, 2, 3 ...: the first gap names the number to use instead.
+    static void checkNumbersAreSequential(const std::set<int>& indexes,
+                                          const std::function<int(int)>& numberOf);
+    // The same for the values that `expression` uses, named by `dictionary`; the
+    // numbers of the values named by number must run 1, 2, 3 ...
     static void flattenValueEnvironment(std::vector<double>& out,
                                         const std::map<std::string, double>& env,
                                         const Tessaly::ImageExpression& expression,

@@ -68,6 +68,12 @@ std::string ImageExpressionDictionary::getName(EntityKind kind, int index) const
     return entryAt(kind, index).key;
 }
 
+int ImageExpressionDictionary::getNumber(EntityKind kind, int index) const
+{
+    const Entry& entry = entryAt(kind, index);
+    return entry.named ? 0 : std::stoi(entry.key.substr(1));
+}
+
 std::string ImageExpressionDictionary::getSpelling(EntityKind kind, int index) const
 {
     const Entry& entry = entryAt(kind, index);

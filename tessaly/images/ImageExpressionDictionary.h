@@ -30,6 +30,11 @@ public:
     // The key under which the entity is registered: "i3" (or "t3", "v3") for a number,
     // the bare name for a name.
     std::string getName(EntityKind kind, int index) const;
+    // The number of an entity named by number (3 for "v3"), 0 for one named by name.
+    // Indexes follow first mention; the numbers are what a modeller wrote, and those
+    // of each kind must run 1, 2, 3 ... (checked where the formula's inputs are
+    // gathered).
+    int getNumber(EntityKind kind, int index) const;
     // As a formula writes it: "i3", "#landuse".
     std::string getSpelling(EntityKind kind, int index) const;
     const Position& getPosition(EntityKind kind, int index) const;
