@@ -49,7 +49,7 @@ wait "$sweep"
 [ $? = 130 ] || fail "Ctrl-C: the sweep did not end with status 130"
 [ "$(status_of slow 5)" = cancelled ] && [ "$(status_of slow 6)" = cancelled ] ||
     fail "Ctrl-C: runs not marked cancelled: $(cat slow/summary.csv)"
-pgrep -f "slow/[0-9]+ " > /dev/null && fail "Ctrl-C: a run outlived the sweep"
+pgrep -f " slow/[0-9]+ " > /dev/null && fail "Ctrl-C: a run outlived the sweep"
 touch -d '2000-01-01' slow/1/out.txt
 "$vrk" sweep model/pair.vrk slow.csv --jobs 2 --out slow --resume > resume.log 2>&1 ||
     fail "resume: status $?: $(cat resume.log)"

@@ -47,7 +47,8 @@ SweepRankLink::~SweepRankLink()
     }
     for (auto& sending : sending_)
         MPI_Request_free(&sending.request);
-    MPI_Finalize();
+    if (!givenUp_)
+        MPI_Finalize();
 }
 
 int SweepRankLink::broadcast(int value)

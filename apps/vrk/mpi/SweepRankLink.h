@@ -1,6 +1,7 @@
 #ifndef VRK_APPS_VRK_MPI_SWEEPRANKLINK_H
 #define VRK_APPS_VRK_MPI_SWEEPRANKLINK_H
 
+#include <chrono>
 #include <list>
 #include <string>
 #include <vector>
@@ -13,6 +14,10 @@
 class SweepRankLink {
 public:
     enum class Tag { Job = 1, Outcome, Alive, End, Cancel };
+    // Rank 0 and the others tell each other that they live this often, and give one
+    // another up after a silence of `LostAfter`, far longer even on a loaded machine.
+    static constexpr std::chrono::milliseconds AliveEvery{500};
+    static constexpr std::chrono::seconds LostAfter{5};
     struct Message {
         int rank = 0;
         Tag tag = Tag::Job;
@@ -31,6 +36,9 @@ public:
     void send(int rank, Tag tag, const std::vector<std::string>& words);
     // Takes the next message that has come, if any; never blocks.
     bool receive(Message& message);
+    // Once a rank is lost, the job can no longer end together: the link then ends
+    // without MPI's closing handshake, which would wait for the lost rank.
+    void giveUp() { givenUp_ = true; }
 
 private:
     struct Sending {
@@ -42,6 +50,7 @@ private:
 
     int rank_ = 0;
     int size_ = 1;
+    bool givenUp_ = false;
     // A message's bytes must outlive its sending.
     std::list<Sending> sending_;
 };

@@ -5,14 +5,6 @@
 
 #include <cassert>
 
-namespace {
-
-// Far above the half second between a living rank's signs of life, even on a loaded
-// machine.
-const std::chrono::seconds LostAfter(5);
-
-} // namespace
-
 SweepRankSlots::SweepRankSlots(SweepRankLink& link, unsigned int jobs)
     : link_(link), jobs_(jobs), ranks_(static_cast<size_t>(link.getSize()))
 {
@@ -48,6 +40,12 @@ bool SweepRankSlots::collect(SweepRecorder& recorder)
     while (link_.receive(message))
         ended = take(message, recorder) || ended;
     checkLost(recorder);
+    if (Clock::now() - told_ >= SweepRankLink::AliveEvery) {
+        for (size_t number = 1; number < ranks_.size(); ++number)
+            if (!ranks_[number].lost)
+                link_.send(static_cast<int>(number), SweepRankLink::Tag::Alive, {});
+        told_ = Clock::now();
+    }
     return ended;
 }
 
@@ -103,9 +101,10 @@ void SweepRankSlots::checkLost(SweepRecorder& recorder)
     const auto now = Clock::now();
     for (size_t number = 1; number < ranks_.size(); ++number) {
         Rank& rank = ranks_[number];
-        if (rank.lost || now - rank.heard < LostAfter)
+        if (rank.lost || now - rank.heard < SweepRankLink::LostAfter)
             continue;
         rank.lost = true;
+        link_.giveUp();
         end(rank, "lost", "The rank " + std::to_string(number) + " was lost, and its run with it.",
             recorder);
     }

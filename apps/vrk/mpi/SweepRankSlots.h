@@ -10,9 +10,9 @@
 #include <vector>
 
 // The ranks other than 0 of a sweep's MPI job, as rank 0 sees them: each runs `jobs`
-// runs at a time, sends back each outcome and tells every half second that it lives.
-// A rank not heard from for some seconds is lost: its runs are recorded as lost with it
-// and it gets no more.
+// runs at a time, sends back each outcome and tells often that it lives, as rank 0
+// tells them. A rank not heard from for some seconds is lost: its runs are recorded as
+// lost with it and it gets no more.
 class SweepRankSlots : public SweepSlots {
 public:
     SweepRankSlots(SweepRankLink& link, unsigned int jobs);
@@ -47,6 +47,7 @@ private:
     unsigned int jobs_;
     // By rank number; rank 0, this process, stays unused.
     std::vector<Rank> ranks_;
+    Clock::time_point told_;
     bool cancelled_ = false;
 };
 

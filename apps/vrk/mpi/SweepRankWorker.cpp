@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <exception>
+#include <iostream>
 #include <thread>
 
 namespace {
@@ -27,19 +28,30 @@ int SweepRankWorker::run()
     InterruptGuard interrupt(task);
     SweepRunner runner(Unbounded);
     Clock::time_point told;
+    Clock::time_point heard = Clock::now();
     for (;;) {
         if (task.isCancelled()) {
             runner.cancel(*this);
             return interrupt.getCancelledStatus();
         }
+        if (Clock::now() - heard > SweepRankLink::LostAfter) {
+            std::cerr << "vrk: error: The rank 0 of the sweep was lost; the rank "
+                      << link_.getRank() << " stops its runs.\n";
+            runner.cancel(*this);
+            link_.giveUp();
+            return 1;
+        }
         SweepRankLink::Message message;
         while (link_.receive(message)) {
+            heard = Clock::now();
             if (message.tag == SweepRankLink::Tag::Cancel) {
                 runner.cancel(*this);
                 return interrupt.getCancelledStatus();
             }
             if (message.tag == SweepRankLink::Tag::End)
                 return std::stoi(message.words.at(0));
+            if (message.tag == SweepRankLink::Tag::Alive)
+                continue;
             const SweepJob job = SweepJob::fromWords(message.words);
             try {
                 runner.start(job);
@@ -48,7 +60,7 @@ int SweepRankWorker::run()
             }
         }
         const bool ended = runner.collect(*this);
-        if (Clock::now() - told > std::chrono::milliseconds(500)) {
+        if (Clock::now() - told >= SweepRankLink::AliveEvery) {
             link_.send(0, SweepRankLink::Tag::Alive, {});
             told = Clock::now();
         }

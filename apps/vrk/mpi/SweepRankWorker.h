@@ -7,7 +7,8 @@ class SweepRankLink;
 
 // What a rank other than 0 does in a sweep: it runs the jobs that rank 0 sends as its
 // own child processes, sends back each outcome and a sign of life every half second,
-// until rank 0 ends or cancels the sweep or a signal cancels it here.
+// until rank 0 ends or cancels the sweep, a signal cancels it here or rank 0 is not
+// heard from for some seconds.
 class SweepRankWorker : public SweepRecorder {
 public:
     explicit SweepRankWorker(SweepRankLink& link);
