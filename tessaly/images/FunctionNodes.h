@@ -91,17 +91,26 @@ TESSALY_UNARY(Log, return x > 0 ? std::log10(x) : Null;)
 TESSALY_UNARY(Signal, return std::isnan(x) ? x : truth(x > 0) - truth(x < 0);)
 #undef TESSALY_UNARY
 
-#define TESSALY_BINARY(NAME, BODY)                                                               \
-    struct NAME {                                                                                \
-        static constexpr const char* Name = #NAME;                                               \
-        static double apply(double a, double b) { BODY }                                         \
+#define TESSALY_BINARY(NAME, BODY)                                                                 \
+    struct NAME {                                                                                  \
+        static constexpr const char* Name = #NAME;                                                 \
+        template <class T>                                                                         \
+        static T apply(T a, T b)                                                                   \
+        {                                                                                          \
+            BODY                                                                                   \
+        }                                                                                          \
     };
 // `holds` is the test alone, for the kernels that select on it without making a truth
-// value first.
+// value first. `holds` and the arithmetic are templates so that the fused kernels apply
+// them to vectors of cells as well as to one cell.
 #define TESSALY_LOGICAL(NAME, RESULT)                                                              \
     struct NAME {                                                                                  \
         static constexpr const char* Name = #NAME;                                                 \
-        static bool holds(double a, double b) { return RESULT; }                                   \
+        template <class T>                                                                         \
+        static auto holds(T a, T b)                                                                \
+        {                                                                                          \
+            return RESULT;                                                                         \
+        }                                                                                          \
         static double apply(double a, double b)                                                    \
         {                                                                                          \
             return eitherNull(a, b) ? Null : truth(RESULT);                                        \

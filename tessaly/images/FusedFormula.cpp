@@ -1,9 +1,7 @@
 #include "tessaly/images/FusedFormula.h"
 
-#include "tessaly/images/BlockFrame.h"
 #include "tessaly/images/CalculationData.h"
 #include "tessaly/images/ImageExpression.h"
-#include "tessaly/images/VectorKernel.h"
 
 #include <algorithm>
 #include <cassert>
@@ -16,16 +14,10 @@ namespace Tessaly {
 namespace {
 
 const double NoNoData = std::numeric_limits<double>::quiet_NaN();
-
-// Narrowed first, then selected in float, as Raster::writeCells does.
-TESSALY_VECTOR_KERNEL void narrow(const double* __restrict in, int count, float noData,
-                                  float* __restrict out)
-{
-    for (int i = 0; i < count; ++i) {
-        const float narrowed = static_cast<float>(in[i]);
-        out[i] = narrowed != narrowed ? noData : narrowed;
-    }
-}
+// Results of more bytes than this are written past the caches: they would not stay in
+// them for the next calculation anyway, and reading their memory in before writing it
+// would add half as much again to the memory traffic of a two-image formula.
+constexpr size_t StreamedBytes = size_t(16) << 20;
 
 } // namespace
 
@@ -93,18 +85,16 @@ void FusedFormula::runLines(const CalculationData& data, int firstLine, int endL
                                ? static_cast<double>(static_cast<float>(raster.getNoData()))
                                : NoNoData;
     }
-    double values[BlockCells];
     const int columns = result.getColumnCount();
     const float resultNoData = static_cast<float>(result.getNoData());
-    for (int line = firstLine; line < endLine; ++line)
-        for (int column = 0; column < columns; column += BlockCells) {
-            const size_t first = size_t(line) * size_t(columns) + size_t(column);
-            for (size_t k = 0; k < images_.size(); ++k)
-                leaves.cells[k] = data.rasters[size_t(images_[k] - 1)]->cells<float>() + first;
-            const int count = std::min(BlockCells, columns - column);
-            kernel_(leaves, count, values);
-            narrow(values, count, resultNoData, result.cells<float>() + first);
-        }
+    const bool stream =
+        size_t(result.getLineCount()) * size_t(columns) * sizeof(float) >= StreamedBytes;
+    for (int line = firstLine; line < endLine; ++line) {
+        const size_t first = size_t(line) * size_t(columns);
+        for (size_t k = 0; k < images_.size(); ++k)
+            leaves.cells[k] = data.rasters[size_t(images_[k] - 1)]->cells<float>() + first;
+        kernel_(leaves, columns, resultNoData, stream, result.cells<float>() + first);
+    }
 }
 
 } // namespace Tessaly

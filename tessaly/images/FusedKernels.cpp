@@ -2,7 +2,13 @@
 
 #include "tessaly/images/VectorKernel.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <map>
+
+#if TESSALY_WIDE_KERNELS
+#include <immintrin.h>
+#endif
 
 namespace Tessaly {
 
@@ -10,15 +16,101 @@ namespace {
 
 using namespace FusedShapes;
 
-// The leaves are copied to a local first: the loop's invariants are then plainly
-// invariant, and the compiler keeps them in registers and vectorises the loop.
-template <class Shape>
-TESSALY_VECTOR_KERNEL void evaluate(const Leaves& leaves, int count, double* __restrict out)
+// Narrowed first, then selected in float, as Raster::writeCells does.
+inline float narrowed(double value, float noData)
 {
-    const Leaves local = leaves;
-    for (int i = 0; i < count; ++i)
-        out[i] = Shape::at(local, i);
+    const float cell = static_cast<float>(value);
+    return cell != cell ? noData : cell;
 }
+
+// Cells [begin, end) one at a time: the whole line where the processor has no AVX2, and
+// the ends of a line that do not fill a vector otherwise.
+template <class Shape>
+void evaluateCells(const Leaves& leaves, int begin, int end, float noData, float* out)
+{
+    Values<double> values{};
+    std::copy(leaves.scalars, leaves.scalars + MaxLeaves, values.scalars);
+    for (int i = begin; i < end; ++i) {
+        for (int k = 0; k < Shape::Images; ++k) {
+            const double cell = leaves.cells[k][i];
+            values.images[k] = cell == leaves.noData[k] ? Ops::Null : cell;
+        }
+        out[i] = narrowed(Shape::at(values), noData);
+    }
+}
+
+template <class Shape>
+void evaluate(const Leaves& leaves, int count, float noData, bool, float* out)
+{
+    evaluateCells<Shape>(leaves, 0, count, noData, out);
+}
+
+#if TESSALY_WIDE_KERNELS
+
+using Doubles = double __attribute__((vector_size(32)));
+
+// 8 cells at a time from where the result is aligned for a vector store: each image's
+// cells read in one load and compared with its NoData in float (exact, both being
+// Float32), widened to two vectors of 4 doubles, the shape worked out on each, and the
+// result narrowed, its nulls made NoData, and stored in one.
+template <class Shape>
+TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noData, bool stream,
+                                      float* __restrict out)
+{
+    // A local copy: the result's stores cannot change it, so its pointers stay in registers.
+    const Leaves leaves = line;
+    const int head =
+        std::min(count, int((-reinterpret_cast<std::uintptr_t>(out) & 31) / sizeof(float)));
+    evaluateCells<Shape>(leaves, 0, head, noData, out);
+    Values<Doubles> low, high;
+    __m256 imageNoData[MaxLeaves];
+    for (int k = 0; k < MaxLeaves; ++k) {
+        low.scalars[k] = high.scalars[k] = _mm256_set1_pd(leaves.scalars[k]);
+        imageNoData[k] = _mm256_set1_ps(static_cast<float>(leaves.noData[k]));
+    }
+    const __m256 null = _mm256_set1_ps(static_cast<float>(Ops::Null));
+    const __m256 resultNoData = _mm256_set1_ps(noData);
+    int i = head;
+    for (; i + 8 <= count; i += 8) {
+        for (int k = 0; k < Shape::Images; ++k) {
+            const __m256 cells = _mm256_loadu_ps(leaves.cells[k] + i);
+            const __m256 read =
+                _mm256_blendv_ps(cells, null, _mm256_cmp_ps(cells, imageNoData[k], _CMP_EQ_OQ));
+            low.images[k] = _mm256_cvtps_pd(_mm256_castps256_ps128(read));
+            high.images[k] = _mm256_cvtps_pd(_mm256_extractf128_ps(read, 1));
+        }
+        const __m256 result =
+            _mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(Shape::at(low))),
+                                 _mm256_cvtpd_ps(Shape::at(high)), 1);
+        const __m256 written =
+            _mm256_blendv_ps(result, resultNoData, _mm256_cmp_ps(result, result, _CMP_UNORD_Q));
+        if (stream)
+            _mm256_stream_ps(out + i, written);
+        else
+            _mm256_store_ps(out + i, written);
+    }
+    evaluateCells<Shape>(leaves, i, count, noData, out);
+    // Streamed stores are ordered with no other store: they are made visible before
+    // another thread may read the result.
+    if (stream)
+        _mm_sfence();
+}
+
+template <class Shape>
+FusedKernels::Kernel kernelOf()
+{
+    return __builtin_cpu_supports("avx2") ? &evaluateWide<Shape> : &evaluate<Shape>;
+}
+
+#else
+
+template <class Shape>
+FusedKernels::Kernel kernelOf()
+{
+    return &evaluate<Shape>;
+}
+
+#endif
 
 template <class T>
 struct Tag {
@@ -51,7 +143,7 @@ using Registry = std::map<std::string, FusedKernels::Kernel>;
 template <class... Shapes>
 void add(Registry& registry)
 {
-    (registry.emplace(Shapes::signature(), &evaluate<Shapes>), ...);
+    (registry.emplace(Shapes::signature(), kernelOf<Shapes>()), ...);
 }
 
 void addArithmetic(Registry& registry)

@@ -3,6 +3,7 @@
 
 #include "tessaly/images/FunctionNodes.h"
 
+#include <algorithm>
 #include <string>
 
 namespace Tessaly {
@@ -17,7 +18,7 @@ namespace FusedShapes {
 // The most images, and the most scalars, that a shape reads.
 constexpr int MaxLeaves = 4;
 
-// What a kernel reads for one block: image K's cells from cells[K], null where equal
+// What a kernel reads for one line: image K's cells from cells[K], null where equal
 // to noData[K] (the Float32 NoData widened, or NaN), and scalar K from scalars[K].
 struct Leaves {
     const float* cells[MaxLeaves];
@@ -25,55 +26,72 @@ struct Leaves {
     double scalars[MaxLeaves];
 };
 
+// The leaves' values at one cell (V is double) or at a vector of cells (V is a vector
+// of doubles), images already read and their NoData made null. A shape computes its
+// value from them with operators that mean the same on one cell and on a vector.
+template <class V>
+struct Values {
+    V images[MaxLeaves];
+    V scalars[MaxLeaves];
+};
+
 template <int K>
 struct Image {
+    static constexpr int Images = K + 1; // the images read, leaves 0 .. Images - 1
     static std::string signature() { return "I" + std::to_string(K); }
-    static double at(const Leaves& leaves, int i)
+    template <class V>
+    static V at(const Values<V>& values)
     {
-        // Widened before the comparison: masks of one width keep the loop short.
-        const double value = static_cast<double>(leaves.cells[K][i]);
-        return value == leaves.noData[K] ? Ops::Null : value;
+        return values.images[K];
     }
 };
 
 template <int K>
 struct Scalar {
+    static constexpr int Images = 0;
     static std::string signature() { return "S" + std::to_string(K); }
-    static double at(const Leaves& leaves, int) { return leaves.scalars[K]; }
+    template <class V>
+    static V at(const Values<V>& values)
+    {
+        return values.scalars[K];
+    }
 };
 
 // Op over the values of two shapes.
 template <class Op, class A, class B>
 struct Apply {
+    static constexpr int Images = std::max(A::Images, B::Images);
     static std::string signature()
     {
         return std::string(Op::Name) + "(" + A::signature() + "," + B::signature() + ")";
     }
-    static double at(const Leaves& leaves, int i)
+    template <class V>
+    static V at(const Values<V>& values)
     {
-        return Op::apply(A::at(leaves, i), B::at(leaves, i));
+        return Op::apply(A::at(values), B::at(values));
     }
 };
 
 // if a <Comparison> b then Then else Otherwise, both branches worked out: null where a
 // or b is null, as Ops::SelectBy gives, with the test made once and no truth value.
+// Written with comparisons and selects only (a value is null where it differs from
+// itself), which on vectors are one instruction each.
 template <class Comparison, class A, class B, class Then, class Otherwise>
 struct ChooseBy {
+    static constexpr int Images = std::max({A::Images, B::Images, Then::Images, Otherwise::Images});
     static std::string signature()
     {
         return "IfThenElse(" + Apply<Comparison, A, B>::signature() + "," + Then::signature() + ","
                + Otherwise::signature() + ")";
     }
-    static double at(const Leaves& leaves, int i)
+    template <class V>
+    static V at(const Values<V>& values)
     {
-        const double a = A::at(leaves, i);
-        const double b = B::at(leaves, i);
-        // Both branches are read before the select: a read in one arm only would be a
-        // masked load.
-        const double then = Then::at(leaves, i);
-        const double otherwise = Otherwise::at(leaves, i);
-        const double chosen = Comparison::holds(a, b) ? then : otherwise;
-        return Ops::eitherNull(a, b) ? Ops::Null : chosen;
+        const V a = A::at(values);
+        const V b = B::at(values);
+        const V chosen = Comparison::holds(a, b) ? Then::at(values) : Otherwise::at(values);
+        // V{} + Null: null in every lane.
+        return (a == a) & (b == b) ? chosen : V{} + Ops::Null;
     }
 };
 

@@ -6,8 +6,13 @@
 // the processors that have AVX2 without requiring it of the others.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 #define TESSALY_VECTOR_KERNEL __attribute__((target_clones("avx2", "default")))
+// A kernel written with AVX2's vectors, which its caller runs only where the processor
+// has them.
+#define TESSALY_WIDE_KERNELS 1
+#define TESSALY_WIDE_KERNEL __attribute__((target("avx2")))
 #else
 #define TESSALY_VECTOR_KERNEL
+#define TESSALY_WIDE_KERNELS 0
 #endif
 
 #endif

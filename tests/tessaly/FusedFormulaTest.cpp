@@ -1,9 +1,14 @@
 #include "tessaly/images/BlockProgramCompiler.h"
+#include "tessaly/images/FusedKernels.h"
 #include "tests/tessaly/CalculatorReference.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <iterator>
+#include <vector>
 
 namespace Tessaly {
 namespace {
@@ -59,6 +64,42 @@ TEST(FusedFormulaTest, FusedKernelsGiveTheCellsOfTheBlockProgram)
                 << text << " on " << a.lines << " x " << a.columns;
         }
     }
+}
+
+// A kernel writes a line's cells and nothing around them, whether it streams them or
+// stores them, wherever the line starts against a vector's alignment and however many
+// cells are left at its end.
+TEST(FusedFormulaTest, KernelsWriteOnlyTheirLineStreamedOrStored)
+{
+    const auto kernel =
+        FusedKernels::find("IfThenElse(GreaterThan(I0,S0),Plus(Times(I0,S1),I1),S2)");
+    ASSERT_NE(kernel, nullptr);
+    const TestMap a = TestMap::random(1, 300, 5);
+    const TestMap b = TestMap::random(1, 300, 6);
+    std::vector<float> first(300), second(300);
+    for (size_t i = 0; i < first.size(); ++i) {
+        first[i] = std::isnan(a.cells[i]) ? -9999.0f : float(a.cells[i]);
+        second[i] = float(b.cells[i]);
+    }
+    const FusedShapes::Leaves leaves{{first.data(), second.data()}, {-9999, Null}, {0, 2, 0}};
+    alignas(32) float out[320];
+    for (int offset : {0, 1, 5, 7})
+        for (int count : {0, 3, 8, 17, 283})
+            for (bool stream : {false, true}) {
+                std::fill(std::begin(out), std::end(out), 42.0f);
+                kernel(leaves, count, -1.0f, stream, out + offset);
+                for (int i = 0; i < 320; ++i) {
+                    const int cell = i - offset;
+                    const double x = a.cells[size_t(std::max(cell, 0))];
+                    const double y = b.cells[size_t(std::max(cell, 0))];
+                    const double expected = cell < 0 || cell >= count                   ? 42
+                                            : std::isnan(x) || (x > 0 && std::isnan(y)) ? -1
+                                            : x > 0                                     ? x * 2 + y
+                                                                                        : 0;
+                    ASSERT_EQ(out[i], float(expected))
+                        << "cell " << cell << " of " << count << " at " << offset << ", " << stream;
+                }
+            }
 }
 
 TEST(FusedFormulaTest, OtherShapesAreLeftToTheBlockProgram)
