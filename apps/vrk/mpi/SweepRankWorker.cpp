@@ -44,20 +44,8 @@ int SweepRankWorker::run()
         SweepRankLink::Message message;
         while (link_.receive(message)) {
             heard = Clock::now();
-            if (message.tag == SweepRankLink::Tag::Cancel) {
-                runner.cancel(*this);
-                return interrupt.getCancelledStatus();
-            }
-            if (message.tag == SweepRankLink::Tag::End)
-                return std::stoi(message.words.at(0));
-            if (message.tag == SweepRankLink::Tag::Alive)
-                continue;
-            const SweepJob job = SweepJob::fromWords(message.words);
-            try {
-                runner.start(job);
-            } catch (const std::exception& error) {
-                record(job.run, {"1", 0, std::string("vrk: error: ") + error.what()});
-            }
+            if (const auto status = take(message, runner, interrupt))
+                return *status;
         }
         const bool ended = runner.collect(*this);
         if (Clock::now() - told >= SweepRankLink::AliveEvery) {
@@ -66,6 +54,34 @@ int SweepRankWorker::run()
         }
         if (!ended)
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+}
+
+// Acts on a message from rank 0; the status to exit with when it ends the rank's part.
+std::optional<int> SweepRankWorker::take(const SweepRankLink::Message& message, SweepRunner& runner,
+                                         const InterruptGuard& interrupt)
+{
+    switch (message.tag) {
+    case SweepRankLink::Tag::Cancel:
+        runner.cancel(*this);
+        return interrupt.getCancelledStatus();
+    case SweepRankLink::Tag::End:
+        return std::stoi(message.words.at(0));
+    case SweepRankLink::Tag::Job:
+        start(SweepJob::fromWords(message.words), runner);
+        return std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
+// A job that cannot start is a failed run, as rank 0 cannot see why otherwise.
+void SweepRankWorker::start(const SweepJob& job, SweepRunner& runner)
+{
+    try {
+        runner.start(job);
+    } catch (const std::exception& error) {
+        record(job.run, {"1", 0, std::string("vrk: error: ") + error.what()});
     }
 }
 

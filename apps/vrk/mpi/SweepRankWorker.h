@@ -2,8 +2,13 @@
 #define VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
 
 #include "apps/vrk/SweepRecorder.h"
+#include "apps/vrk/mpi/SweepRankLink.h"
 
-class SweepRankLink;
+#include <optional>
+
+class InterruptGuard;
+class SweepRunner;
+struct SweepJob;
 
 // What a rank other than 0 does in a sweep: it runs the jobs that rank 0 sends as its
 // own child processes, sends back each outcome and a sign of life every half second,
@@ -19,6 +24,10 @@ public:
     void record(const std::string& run, const SweepSummary::Entry& entry) override;
 
 private:
+    std::optional<int> take(const SweepRankLink::Message& message, SweepRunner& runner,
+                            const InterruptGuard& interrupt);
+    void start(const SweepJob& job, SweepRunner& runner);
+
     SweepRankLink& link_;
 };
 
