@@ -125,3 +125,34 @@ TEST_F(MapFunctors, CalculationsHoldOnlyRegistratorsAndRefuseAClashWithTheirPort
                   "The key \"image\" is already in use by another hook functor.");
     }
 }
+
+// Maps and tables named by number must run 1, 2, 3 ... as values must: the check that
+// the calculations share names the number to write instead, for a gap after the first
+// (i1 + i3) and for a formula whose only table is not the first.
+TEST_F(MapFunctors, NumberedMapsAndTablesMustRunFromOne)
+{
+    std::ofstream((folder_ / "t.csv").string()) << "1,10\n2,20\n";
+    const std::pair<const char*, const char*> cases[] = {
+        {"a := LoadMap filename = \"DIR/a.asc\";"
+         "c := CalculateMap expression = [ i1 + i3 ] {"
+         "  NumberMap map = a.map mapNumber = 1;"
+         "  NumberMap map = a.map mapNumber = 3;"
+         "}",
+         "Index 3 used by expression must be changed to 2."},
+        {"t := LoadLookupTable filename = \"DIR/t.csv\";"
+         "c := CalculateLookupTable expression = [ t2[line] * 2 ] {"
+         "  NumberLookupTable table = t.table tableNumber = 2;"
+         "}",
+         "Index 2 used by expression must be changed to 1."}};
+    for (const auto& gap : cases) {
+        auto script = read(gap.first);
+        try {
+            run(*script);
+            ADD_FAILURE() << "a gap was taken: " << gap.first;
+        } catch (const VRK::Exception& error) {
+            EXPECT_EQ(error.getMessage(),
+                      std::string(gap.second) + " Map, table and value indexes must be sequential.")
+                << gap.first;
+        }
+    }
+}
