@@ -99,6 +99,8 @@ TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noDat
 template <class Shape>
 FusedKernels::Kernel kernelOf()
 {
+    // The processor's features may be asked for before the library's constructors ran.
+    __builtin_cpu_init();
     return __builtin_cpu_supports("avx2") ? &evaluateWide<Shape> : &evaluate<Shape>;
 }
 
