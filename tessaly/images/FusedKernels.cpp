@@ -49,19 +49,15 @@ void evaluate(const Leaves& leaves, int count, float noData, bool, float* out)
 
 using Doubles = double __attribute__((vector_size(32)));
 
-// 8 cells at a time from where the result is aligned for a vector store: each image's
-// cells read in one load and compared with its NoData in float (exact, both being
-// Float32), widened to two vectors of 4 doubles, the shape worked out on each, and the
-// result narrowed, its nulls made NoData, and stored in one.
-template <class Shape>
-TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noData, bool stream,
-                                      float* __restrict out)
+// Cells [begin, end of the last whole vector) 8 at a time, `out + begin` aligned for a
+// vector store: each image's cells read in one load and compared with its NoData in
+// float (exact, both being Float32), widened to two vectors of 4 doubles, the shape
+// worked out on each, and the result narrowed, its nulls made NoData, and stored in
+// one. Returns where it stopped.
+template <class Shape, bool Stream>
+TESSALY_WIDE_KERNEL int evaluateVectors(const Leaves& leaves, int begin, int count, float noData,
+                                        float* __restrict out)
 {
-    // A local copy: the result's stores cannot change it, so its pointers stay in registers.
-    const Leaves leaves = line;
-    const int head =
-        std::min(count, int((-reinterpret_cast<std::uintptr_t>(out) & 31) / sizeof(float)));
-    evaluateCells<Shape>(leaves, 0, head, noData, out);
     Values<Doubles> low, high;
     __m256 imageNoData[MaxLeaves];
     for (int k = 0; k < MaxLeaves; ++k) {
@@ -70,7 +66,7 @@ TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noDat
     }
     const __m256 null = _mm256_set1_ps(static_cast<float>(Ops::Null));
     const __m256 resultNoData = _mm256_set1_ps(noData);
-    int i = head;
+    int i = begin;
     for (; i + 8 <= count; i += 8) {
         for (int k = 0; k < Shape::Images; ++k) {
             const __m256 cells = _mm256_loadu_ps(leaves.cells[k] + i);
@@ -84,12 +80,26 @@ TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noDat
                                  _mm256_cvtpd_ps(Shape::at(high)), 1);
         const __m256 written =
             _mm256_blendv_ps(result, resultNoData, _mm256_cmp_ps(result, result, _CMP_UNORD_Q));
-        if (stream)
+        if (Stream)
             _mm256_stream_ps(out + i, written);
         else
             _mm256_store_ps(out + i, written);
     }
-    evaluateCells<Shape>(leaves, i, count, noData, out);
+    return i;
+}
+
+template <class Shape>
+TESSALY_WIDE_KERNEL void evaluateWide(const Leaves& line, int count, float noData, bool stream,
+                                      float* out)
+{
+    // A local copy: the result's stores cannot change it, so its pointers stay in registers.
+    const Leaves leaves = line;
+    const int head =
+        std::min(count, int((-reinterpret_cast<std::uintptr_t>(out) & 31) / sizeof(float)));
+    evaluateCells<Shape>(leaves, 0, head, noData, out);
+    const int tail = stream ? evaluateVectors<Shape, true>(leaves, head, count, noData, out)
+                            : evaluateVectors<Shape, false>(leaves, head, count, noData, out);
+    evaluateCells<Shape>(leaves, tail, count, noData, out);
     // Streamed stores are ordered with no other store: they are made visible before
     // another thread may read the result.
     if (stream)
