@@ -10,8 +10,10 @@
 #include <boost/spirit/include/classic_core.hpp>
 #include <boost/spirit/include/classic_position_iterator.hpp>
 
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace VRK {
 namespace Spirit {
@@ -70,8 +72,14 @@ struct transduced_assertive_parser
         boost::spirit::classic::unary<SubjectT, boost::spirit::classic::parser<self_t>>;
     using parser_category_t = boost::spirit::classic::unary_parser_category;
 
-    transduced_assertive_parser(const SubjectT& subject, const std::string& message)
+    // A literal message is pointed at: number readers make their parser anew for every
+    // value they read.
+    transduced_assertive_parser(const SubjectT& subject, const char* message)
         : base_t(subject), message_(message)
+    {
+    }
+    transduced_assertive_parser(const SubjectT& subject, const std::string& message)
+        : base_t(subject), kept_(std::make_shared<const std::string>(message)), message_(*kept_)
     {
     }
 
@@ -93,11 +101,11 @@ struct transduced_assertive_parser
         const auto entry = scan.first;
         auto hit = parseSubject(scan, entry);
         if (!hit)
-            raiseAt(message_, entry);
+            raiseAt(std::string(message_), entry);
         return hit;
     }
 
-    const std::string& getMessage() const { return message_; }
+    std::string getMessage() const { return std::string(message_); }
 
 private:
     template <class ScannerT, class IteratorT>
@@ -119,13 +127,15 @@ private:
         ExceptionUtils::raise(ParseError(message, detail::positionOf(where)));
     }
 
-    std::string message_;
+    // A message that is no literal, shared by the copies of the parser.
+    std::shared_ptr<const std::string> kept_;
+    std::string_view message_;
 };
 
 // transduced_assertive_p(str_p(".yes") | ".no", "Expecting a truth value.")
-template <class T>
+template <class T, class MessageT>
 transduced_assertive_parser<typename boost::spirit::classic::as_parser<T>::type>
-transduced_assertive_p(const T& subject, const std::string& message)
+transduced_assertive_p(const T& subject, const MessageT& message)
 {
     using subject_t = typename boost::spirit::classic::as_parser<T>::type;
     return transduced_assertive_parser<subject_t>(

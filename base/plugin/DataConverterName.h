@@ -1,6 +1,8 @@
 #ifndef VRK_BASE_PLUGIN_DATACONVERTERNAME_H
 #define VRK_BASE_PLUGIN_DATACONVERTERNAME_H
 
+#include <cstddef>
+#include <functional>
 #include <ostream>
 #include <string>
 
@@ -29,5 +31,17 @@ private:
 std::ostream& operator<<(std::ostream& out, const DataConverterName& name);
 
 } // namespace VRK
+
+// Converters are looked up by name in a hash table, as every factory's products are.
+template <>
+struct std::hash<VRK::DataConverterName> {
+    size_t operator()(const VRK::DataConverterName& name) const
+    {
+        const size_t source = std::hash<std::string>()(name.getSource());
+        return source
+               ^ (std::hash<std::string>()(name.getTarget()) + 0x9e3779b9 + (source << 6)
+                  + (source >> 2));
+    }
+};
 
 #endif

@@ -3,10 +3,10 @@
 
 #include "base/error/ExceptionUtils.h"
 
-#include <map>
 #include <mutex>
 #include <sstream>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace VRK {
@@ -53,6 +53,14 @@ public:
         return entry(keyOrAlias).key;
     }
 
+    // The creator of a key or an alias, none when it is not registered: for callers
+    // that make many products of a few keys and keep the creators they found.
+    Creator findCreator(const Key& keyOrAlias) const
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto found = index_.find(keyOrAlias);
+        return found == index_.end() ? Creator() : entries_[found->second].creator;
+    }
     template <class... Args>
     Product create(const Key& keyOrAlias, Args&&... args) const
     {
@@ -86,7 +94,9 @@ private:
 
     mutable std::mutex mutex_;
     std::vector<Entry> entries_;
-    std::map<Key, size_t> index_;
+    // Searched for every functor made and every value read: a hash table rather than a
+    // tree, whose every step compares two names.
+    std::unordered_map<Key, size_t> index_;
 };
 
 } // namespace VRK

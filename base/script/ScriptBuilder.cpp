@@ -5,6 +5,7 @@
 #include "base/graph/PortScope.h"
 #include "base/graph/WorkdirBinding.h"
 #include "base/parse/ValueParser.h"
+#include "base/plugin/FactoryFarmManager.h"
 #include "base/script/Script.h"
 #include "base/util/NameUtils.h"
 #include "base/util/PropertyUtils.h"
@@ -65,12 +66,15 @@ void ScriptBuilder::attachPropertiesToScript(const ScriptPosition& position)
 Functor& ScriptBuilder::beginFunctor(const std::string& name, const std::string& alias,
                                      const ScriptPosition& position)
 {
-    auto factory = FactoryFarmManager::Instance().getFunctorFactory();
-    if (!factory->isRegistered(name))
+    // One search of the factory, not one to check the name and one to create.
+    const auto create = FactoryFarmManager::Instance().getFunctorFactory()->findCreator(name);
+    if (!create)
         ExceptionUtils::raiseAt<ParseError>(position, unknownFunctorMessage(name));
     Frame& frame = frames_.back();
-    Functor* functor = frame.container->createFunctor(name, true);
-    assert(functor != 0 && "a registered name makes a functor");
+    const std::shared_ptr<Functor> made = create();
+    assert(made != 0 && "a registered name makes a functor");
+    frame.container->addFunctor(made, true);
+    Functor* functor = made.get();
     functor->setPosition(position);
     frame.current = functor;
     frame.given.clear();
@@ -191,6 +195,16 @@ DataEditor& ScriptBuilder::takeValueEditor(InputPort& port, const ScriptPosition
                           + " takes no typed-in value: bind it to an output (alias.port).");
     port.setValueSet(true);
     return *port.getDataEditor();
+}
+
+std::unique_ptr<DataReader<ScriptScanner>>
+ScriptBuilder::createValueReader(InputPort& port, const ScriptPosition& position)
+{
+    DataEditor& editor = takeValueEditor(port, position);
+    auto reader = valueReaders_.create(*port.getType(), editor);
+    if (!reader)
+        ExceptionUtils::raiseAt<ParseError>(position, noReaderMessage(port.getType()->getName()));
+    return reader;
 }
 
 std::string ScriptBuilder::noReaderMessage(const std::string& typeName)

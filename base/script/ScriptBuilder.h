@@ -7,7 +7,7 @@
 #include "base/graph/InputPort.h"
 #include "base/parse/ParseError.h"
 #include "base/parse/ScannerTypes.h"
-#include "base/plugin/FactoryFarmManager.h"
+#include "base/script/ScriptValueReaders.h"
 #include "base/util/ScriptPosition.h"
 
 #include <functional>
@@ -57,20 +57,10 @@ public:
     // Binds `port` to the output `output` of the functor aliased `alias`.
     void bind(InputPort& port, const std::string& alias, const std::string& output,
               const ScriptPosition& position);
-    // The reader of `port`'s type under `scannerName`, to read a value in place into
-    // the port's editor; the port counts as set.
-    template <class ScannerT>
-    std::unique_ptr<DataReader<ScannerT>> createValueReader(InputPort& port,
-                                                            const std::string& scannerName,
-                                                            const ScriptPosition& position)
-    {
-        DataEditor& editor = takeValueEditor(port, position);
-        auto factory = FactoryFarmManager::Instance().getDataReaderFactory<ScannerT>(scannerName);
-        const std::string& typeName = port.getType()->getName();
-        if (!factory->isRegistered(typeName))
-            ExceptionUtils::raiseAt<ParseError>(position, noReaderMessage(typeName));
-        return std::unique_ptr<DataReader<ScannerT>>(factory->create(typeName, &editor));
-    }
+    // The reader of `port`'s type, to read a value in place into the port's editor; the
+    // port counts as set.
+    std::unique_ptr<DataReader<ScriptScanner>> createValueReader(InputPort& port,
+                                                                 const ScriptPosition& position);
     // Where a place in the text of a value, counted from line 1, column 1 of that text,
     // stands in the script.
     using ValueLocator = std::function<ScriptPosition(const ScriptPosition& inText)>;
@@ -128,6 +118,7 @@ private:
     // Looked up for every alias defined and every reference resolved; never listed.
     std::unordered_map<std::string, std::pair<Functor*, ScriptPosition>> aliases_;
     std::vector<PendingBinding> bindings_;
+    ScriptValueReaders valueReaders_;
 };
 
 } // namespace VRK

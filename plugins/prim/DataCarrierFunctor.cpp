@@ -12,7 +12,7 @@ const char* const ConstantPort = "constant";
 const char* const ObjectPort = "object";
 } // namespace
 
-DataCarrierFunctor::DataCarrierFunctor(const std::string& name, const std::string& description,
+DataCarrierFunctor::DataCarrierFunctor(std::string_view name, std::string_view description,
                                        const std::shared_ptr<VRK::BaseType>& type)
     : VRK::Functor(name, description, type)
 {
@@ -22,8 +22,8 @@ DataCarrierFunctor::DataCarrierFunctor(const std::string& name, const std::strin
 DataCarrierFunctor::~DataCarrierFunctor() = default;
 
 void DataCarrierFunctor::addCarrierPorts(const std::shared_ptr<VRK::BaseType>& type,
-                                         const std::string& constantDescription,
-                                         const std::string& objectDescription)
+                                         std::string_view constantDescription,
+                                         std::string_view objectDescription)
 {
     addInputPort(ConstantPort, constantDescription, type, false);
     addOutputPort(ObjectPort, objectDescription, type);

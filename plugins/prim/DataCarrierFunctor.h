@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Prim {
 
@@ -25,13 +26,12 @@ public:
     static constexpr size_t BannerLength = 50;
 
 protected:
-    DataCarrierFunctor(const std::string& name, const std::string& description,
+    DataCarrierFunctor(std::string_view name, std::string_view description,
                        const std::shared_ptr<VRK::BaseType>& type);
 
     // Declares "constant" and "object", both of the carried type.
     void addCarrierPorts(const std::shared_ptr<VRK::BaseType>& type,
-                         const std::string& constantDescription,
-                         const std::string& objectDescription);
+                         std::string_view constantDescription, std::string_view objectDescription);
 };
 
 } // namespace Prim

@@ -9,7 +9,7 @@ template <class ScannerT>
 DoubleReader<ScannerT>::DoubleReader(VRK::DataEditor* dataEditor)
     : NumberReader<ScannerT, double>(
         dataEditor, "Expecting a double precision real.",
-        PrimReaderUtils::setterOf(dataEditor, &DoubleEditor::setDouble))
+        &PrimReaderUtils::set<DoubleEditor, double, &DoubleEditor::setDouble>)
 {
 }
 

@@ -8,7 +8,7 @@ namespace Prim {
 template <class ScannerT>
 IntReader<ScannerT>::IntReader(VRK::DataEditor* dataEditor)
     : NumberReader<ScannerT, int>(dataEditor, "Expecting an integer.",
-                                  PrimReaderUtils::setterOf(dataEditor, &IntEditor::setInt))
+                                  &PrimReaderUtils::set<IntEditor, int, &IntEditor::setInt>)
 {
 }
 

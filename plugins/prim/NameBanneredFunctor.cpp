@@ -4,7 +4,7 @@
 
 namespace Prim {
 
-NameBanneredFunctor::NameBanneredFunctor(const std::string& name, const std::string& description,
+NameBanneredFunctor::NameBanneredFunctor(std::string_view name, std::string_view description,
                                          const std::string& namePort,
                                          const std::shared_ptr<VRK::BaseType>& type)
     : VRK::Functor(name, description, type), namePort_(namePort)

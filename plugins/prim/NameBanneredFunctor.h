@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Prim {
 
@@ -19,7 +20,7 @@ public:
     std::string getBanner() const override;
 
 protected:
-    NameBanneredFunctor(const std::string& name, const std::string& description,
+    NameBanneredFunctor(std::string_view name, std::string_view description,
                         const std::string& namePort, const std::shared_ptr<VRK::BaseType>& type);
 
 private:

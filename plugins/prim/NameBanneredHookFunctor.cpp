@@ -4,8 +4,8 @@
 
 namespace Prim {
 
-NameBanneredHookFunctor::NameBanneredHookFunctor(const std::string& name,
-                                                 const std::string& description,
+NameBanneredHookFunctor::NameBanneredHookFunctor(std::string_view name,
+                                                 std::string_view description,
                                                  const std::string& namePort,
                                                  const std::shared_ptr<VRK::BaseType>& type)
     : VRK::HookFunctor(name, description, type), namePort_(namePort)

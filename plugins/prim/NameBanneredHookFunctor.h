@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Prim {
 
@@ -19,7 +20,7 @@ public:
     std::string getBanner() const override;
 
 protected:
-    NameBanneredHookFunctor(const std::string& name, const std::string& description,
+    NameBanneredHookFunctor(std::string_view name, std::string_view description,
                             const std::string& namePort,
                             const std::shared_ptr<VRK::BaseType>& type);
 

@@ -10,7 +10,7 @@ template <class ScannerT>
 NonNegativeIntReader<ScannerT>::NonNegativeIntReader(VRK::DataEditor* dataEditor)
     : NumberReader<ScannerT, int>(
         dataEditor, "Expecting a non-negative integer.",
-        PrimReaderUtils::setterOf(dataEditor, &NonNegativeIntEditor::setNonNegativeInt))
+        &PrimReaderUtils::set<NonNegativeIntEditor, int, &NonNegativeIntEditor::setNonNegativeInt>)
 {
 }
 

@@ -5,8 +5,8 @@
 
 namespace Prim {
 
-NumberBanneredHookFunctor::NumberBanneredHookFunctor(const std::string& name,
-                                                     const std::string& description,
+NumberBanneredHookFunctor::NumberBanneredHookFunctor(std::string_view name,
+                                                     std::string_view description,
                                                      const std::string& numberPort,
                                                      const std::shared_ptr<VRK::BaseType>& type)
     : VRK::HookFunctor(name, description, type), numberPort_(numberPort)

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Prim {
 
@@ -20,7 +21,7 @@ public:
     std::string getBanner() const override;
 
 protected:
-    NumberBanneredHookFunctor(const std::string& name, const std::string& description,
+    NumberBanneredHookFunctor(std::string_view name, std::string_view description,
                               const std::string& numberPort,
                               const std::shared_ptr<VRK::BaseType>& type);
 

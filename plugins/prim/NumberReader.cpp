@@ -4,7 +4,6 @@
 #include "plugins/prim/ExactRealParser.h"
 
 #include <type_traits>
-#include <utility>
 
 namespace Prim {
 
@@ -24,19 +23,22 @@ auto numberParser()
 } // namespace
 
 template <class ScannerT, class ValueT>
-NumberReader<ScannerT, ValueT>::NumberReader(VRK::DataEditor* dataEditor,
-                                             const std::string& message,
-                                             std::function<void(ValueT)> set)
-    : VRK::DataReader<ScannerT>(dataEditor), set_(std::move(set))
+NumberReader<ScannerT, ValueT>::NumberReader(VRK::DataEditor* dataEditor, const char* message,
+                                             Setter set)
+    : VRK::DataReader<ScannerT>(dataEditor), message_(message), set_(set)
 {
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        numberParser<ValueT>()[([this](ValueT value) { set_(value); })], message);
 }
 
 template <class ScannerT, class ValueT>
 std::ptrdiff_t NumberReader<ScannerT, ValueT>::read(const ScannerT& scan) const
 {
-    return grammar_.parse(scan).length();
+    VRK::DataEditor& editor = *this->getDataEditor();
+    const Setter set = set_;
+    return VRK::Spirit::transduced_assertive_p(
+               numberParser<ValueT>()[([&editor, set](ValueT value) { set(editor, value); })],
+               message_)
+        .parse(scan)
+        .length();
 }
 
 template class NumberReader<VRK::ScriptScanner, int>;

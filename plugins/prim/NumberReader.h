@@ -4,10 +4,7 @@
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"
 
-#include <boost/spirit/include/classic_core.hpp>
-
-#include <functional>
-#include <string>
+#include <cstddef>
 
 namespace Prim {
 
@@ -17,20 +14,19 @@ namespace Prim {
 template <class ScannerT, class ValueT>
 class NumberReader : public VRK::DataReader<ScannerT> {
 public:
-    // The grammar's actions point into this reader.
-    NumberReader(const NumberReader&) = delete;
-    NumberReader& operator=(const NumberReader&) = delete;
+    using Setter = void (*)(VRK::DataEditor& editor, ValueT value);
 
     std::ptrdiff_t read(const ScannerT& scan) const override;
 
 protected:
-    // `message` says what was expected when the text is not a number.
-    NumberReader(VRK::DataEditor* dataEditor, const std::string& message,
-                 std::function<void(ValueT)> set);
+    // `message`, a literal, says what was expected when the text is not a number.
+    NumberReader(VRK::DataEditor* dataEditor, const char* message, Setter set);
 
 private:
-    std::function<void(ValueT)> set_;
-    boost::spirit::classic::rule<ScannerT> grammar_;
+    // A reader serves one value: its parser is made when it reads, at no cost of its
+    // own, rather than kept as a rule.
+    const char* message_;
+    Setter set_;
 };
 
 extern template class NumberReader<VRK::ScriptScanner, int>;

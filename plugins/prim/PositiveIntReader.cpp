@@ -10,7 +10,7 @@ template <class ScannerT>
 PositiveIntReader<ScannerT>::PositiveIntReader(VRK::DataEditor* dataEditor)
     : NumberReader<ScannerT, int>(
         dataEditor, "Expecting a positive integer.",
-        PrimReaderUtils::setterOf(dataEditor, &PositiveIntEditor::setPositiveInt))
+        &PrimReaderUtils::set<PositiveIntEditor, int, &PositiveIntEditor::setPositiveInt>)
 {
 }
 

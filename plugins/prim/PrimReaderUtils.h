@@ -22,6 +22,14 @@ public:
         return PrimEditorUtils::editorOf<EditorT>(dataEditor);
     }
 
+    // A call of `Set` on the editor of class EditorT that it is given: a plain function,
+    // for readers made anew for every value, that make no closure.
+    template <class EditorT, class ValueT, void (EditorT::*Set)(ValueT)>
+    static void set(VRK::DataEditor& dataEditor, ValueT value)
+    {
+        (editorOf<EditorT>(&dataEditor).*Set)(std::move(value));
+    }
+
     // A call of `set` on that editor, for the value a reader has read.
     template <class EditorT, class ValueT>
     static std::function<void(ValueT)> setterOf(VRK::DataEditor* dataEditor,

@@ -19,6 +19,9 @@ TEST(DefaultSkipGrammar, SkipsWhiteSpaceAndWholeCommentsOnly)
     EXPECT_EQ(skipped(" \t\r\nx"), 4);
     EXPECT_EQ(skipped("// line\n  x"), 10);
     EXPECT_EQ(skipped("// to the end"), 13);
+    EXPECT_EQ(skipped("// a\r\n\vx"), 7);
+    EXPECT_EQ(skipped("// a\r/"), 5);
+    EXPECT_EQ(skipped("/***/ /* * / */x"), 15);
     EXPECT_EQ(skipped("/* a\n b */ /**/x"), 15);
     EXPECT_EQ(skipped(" /* never closed"), 1);
     EXPECT_EQ(skipped(" / 2"), 1);

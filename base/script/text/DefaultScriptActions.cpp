@@ -4,6 +4,7 @@
 #include "base/graph/Functor.h"
 #include "base/graph/FunctorNameUtils.h"
 #include "base/parse/ParseError.h"
+#include "base/parse/ScriptCharClass.h"
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/script/ScriptBuilder.h"
 #include "base/util/QuotedText.h"
@@ -22,10 +23,7 @@ std::string textOf(const ScriptIterator& first, const ScriptIterator& last)
     return std::string(first.base(), last.base());
 }
 
-bool continuesWord(char c)
-{
-    return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '.' || c == '"';
-}
+bool continuesWord(char c) { return ScriptCharClass::isWordChar(c) || c == '.' || c == '"'; }
 
 } // namespace
 
@@ -155,8 +153,7 @@ std::ptrdiff_t DefaultScriptActions::value(const ScriptScanner& scan)
 {
     assert(port_ != 0 && "a binding names its input before its value");
     scan.skip(scan);
-    auto reader = builder_.createValueReader<ScriptScanner>(*port_, ScriptScannerName,
-                                                            positionOf(scan.first));
+    auto reader = builder_.createValueReader(*port_, positionOf(scan.first));
     const std::ptrdiff_t length = reader->read(scan);
     checkValueEnd(scan);
     return length;

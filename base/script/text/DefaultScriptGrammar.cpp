@@ -1,5 +1,6 @@
 #include "base/script/text/DefaultScriptGrammar.h"
 
+#include "base/parse/ScriptCharClass.h"
 #include "base/parse/ScriptTextScanner.h"
 #include "base/parse/TransducedAssertiveParser.h"
 #include "base/plugin/FactoryFarmManager.h"
@@ -37,6 +38,27 @@ private:
     DefaultScriptActions* actions_;
 };
 
+// A name: a letter or "_", then letters, digits and "_". Read in one loop: names are
+// most of a script's text.
+class WordParser : public parser<WordParser> {
+public:
+    using self_t = WordParser;
+
+    template <class ScannerT>
+    typename parser_result<self_t, ScannerT>::type parse(const ScannerT& scan) const
+    {
+        if (scan.at_end() || !ScriptCharClass::isWordStart(*scan))
+            return scan.no_match();
+        const typename ScannerT::iterator_t start = scan.first;
+        std::ptrdiff_t length = 0;
+        do {
+            ++scan.first;
+            ++length;
+        } while (scan.first != scan.last && ScriptCharClass::isWordChar(*scan.first));
+        return scan.create_match(length, nil_t(), start, scan.first);
+    }
+};
+
 using Action = void (DefaultScriptActions::*)(const ScriptIterator&, const ScriptIterator&);
 
 // A semantic action on matched text that calls `action` of `actions`.
@@ -60,7 +82,7 @@ struct DefaultScriptGrammar::definition {
         using Spirit::transduced_assertive_p;
         DefaultScriptActions& a = self.getActions();
         const FunctorParser& functorNames = *FactoryFarmManager::Instance().getFunctorParser();
-        const auto word = (alpha_p | '_') >> *(alnum_p | '_');
+        const WordParser word;
 
         identifier = lexeme_d[word];
         quoted = lexeme_d[ch_p('"') >> *((ch_p('\\') >> anychar_p) | (anychar_p - '"')) >> '"'];
