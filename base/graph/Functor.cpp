@@ -131,9 +131,6 @@ void Functor::adoptInputPort(const std::shared_ptr<InputPort>& port,
 {
     assert(!getInputPort(port->getName()) && "input port names are unique");
     port->setOwner(this);
-    // Room for the few inputs most functors have at once, rather than growing one by one.
-    if (inputs_.empty())
-        inputs_.reserve(4);
     inputs_.push_back(port);
     for (const auto& alias : aliases)
         inputAliases_.emplace_back(alias, port->getName());

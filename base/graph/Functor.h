@@ -13,6 +13,8 @@
 #include "base/util/Propertiable.h"
 #include "base/util/ScriptPosition.h"
 
+#include <boost/container/small_vector.hpp>
+
 #include <bitset>
 #include <cassert>
 #include <memory>
@@ -90,8 +92,12 @@ public:
 
     InputPort* getInputPort(std::string_view nameOrAlias) const;
     OutputPort* getOutputPort(std::string_view name) const;
-    const std::vector<std::shared_ptr<InputPort>>& getInputPorts() const { return inputs_; }
-    const std::vector<std::shared_ptr<OutputPort>>& getOutputPorts() const { return outputs_; }
+    // Most functors have a few ports: they are held in the functor itself, not in blocks
+    // of their own that every functor of a script would allocate.
+    using InputPorts = boost::container::small_vector<std::shared_ptr<InputPort>, 3>;
+    using OutputPorts = boost::container::small_vector<std::shared_ptr<OutputPort>, 1>;
+    const InputPorts& getInputPorts() const { return inputs_; }
+    const OutputPorts& getOutputPorts() const { return outputs_; }
     std::vector<std::string> getInputPortAliases(const std::string& name) const;
 
     // The value of an input as data class DataT (an Int input read as DoubleData works).
@@ -160,8 +166,8 @@ private:
     void adoptOutputPort(const std::shared_ptr<OutputPort>& port);
     void copyPortsFrom(const Functor& other);
 
-    std::vector<std::shared_ptr<InputPort>> inputs_;
-    std::vector<std::shared_ptr<OutputPort>> outputs_;
+    InputPorts inputs_;
+    OutputPorts outputs_;
     std::vector<std::pair<std::string, std::string>> inputAliases_;
     std::bitset<32> flags_;
     size_t level_ = 0;

@@ -48,7 +48,7 @@ const std::string* internCached(std::string_view text)
 } // namespace
 
 Descriptable::Descriptable(std::string_view name, std::string_view description)
-    : name_(name), description_(internCached(description))
+    : name_(internCached(name)), description_(internCached(description))
 {
 }
 

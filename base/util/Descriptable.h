@@ -16,11 +16,12 @@ public:
     virtual bool hasBanner() const;
     virtual std::string getBanner() const;
 
-    const std::string& getName() const { return name_; }
+    const std::string& getName() const { return *name_; }
     const std::string& getDescription() const { return *description_; }
 
 private:
-    std::string name_;
+    // Names are as few and as lasting as descriptions, and shared the same way.
+    const std::string* name_;
     // Shared by every object of the same description, which never changes: a script
     // makes thousands of functors and ports of a few kinds, and copying each one's text
     // was much of the cost of reading it.
