@@ -22,7 +22,7 @@ void DiagnosticPrinter::print(const VRK::Exception& error, const std::string& fi
 
 void DiagnosticPrinter::print(const std::string& message, const VRK::ScriptPosition& position)
 {
-    out_ << (position.file.empty() ? std::string("vrk") : position.file);
+    out_ << (position.file.empty() ? std::string("vrk") : position.file.str());
     if (position.isKnown()) {
         out_ << ':' << position.line;
         if (position.column > 0)

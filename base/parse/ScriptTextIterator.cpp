@@ -6,7 +6,7 @@
 namespace VRK {
 
 // Most texts hold no "\r": their lines are found a whole line at a time.
-ScriptTextLines::ScriptTextLines(const char* begin, const char* end, const char* file)
+ScriptTextLines::ScriptTextLines(const char* begin, const char* end, const ScriptFileName& file)
     : end_(end), file_(file), lineStarts_{begin}
 {
     // An empty text may have no storage at all, which memchr must not be given.
@@ -45,7 +45,7 @@ ScriptFilePosition ScriptTextLines::positionOf(const char* at) const
     int column = int(at - start) + 1;
     if (at != end_ && at != start && *at == '\n' && at[-1] == '\r')
         --column;
-    return ScriptFilePosition(ScriptFileName(file_), int(next - lineStarts_.begin()), column);
+    return ScriptFilePosition(file_, int(next - lineStarts_.begin()), column);
 }
 
 } // namespace VRK

@@ -18,8 +18,7 @@ using ScriptFilePosition = boost::spirit::classic::file_position_base<ScriptFile
 // "\r\n" and a lone "\r" each end a line.
 class ScriptTextLines {
 public:
-    // `file` must outlive the positions told.
-    ScriptTextLines(const char* begin, const char* end, const char* file);
+    ScriptTextLines(const char* begin, const char* end, const ScriptFileName& file);
 
     ScriptFilePosition positionOf(const char* at) const;
     const char* end() const { return end_; }
@@ -28,7 +27,7 @@ private:
     std::vector<const char*>::const_iterator lineAfter(const char* at) const;
 
     const char* end_;
-    const char* file_;
+    ScriptFileName file_;
     std::vector<const char*> lineStarts_;
     // Where the last place asked for lay; a text is read by one thread.
     mutable size_t lastLine_ = 0;

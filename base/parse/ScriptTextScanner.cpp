@@ -3,8 +3,8 @@
 namespace VRK {
 
 ScriptTextScanner::ScriptTextScanner(const std::string& text, const std::string& filename)
-    : filename_(filename), characters_(text.begin(), text.end()),
-      lines_(characters_.data(), characters_.data() + characters_.size(), filename_.c_str()),
+    : characters_(text.begin(), text.end()),
+      lines_(characters_.data(), characters_.data() + characters_.size(), ScriptFileName(filename)),
       first_(characters_.data(), lines_), last_(characters_.data() + characters_.size(), lines_),
       skipper_(),
       scanner_(

@@ -21,7 +21,6 @@ public:
     const ScriptScanner& getScanner() const { return scanner_; }
 
 private:
-    std::string filename_;
     std::vector<char> characters_;
     ScriptTextLines lines_;
     ScriptIterator first_;

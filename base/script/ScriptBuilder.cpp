@@ -107,9 +107,8 @@ void ScriptBuilder::registerAlias(Functor& functor, const std::string& alias,
         ExceptionUtils::raiseAt<ParseError>(position, "The alias " + FunctorNameUtils::quote(alias)
                                                           + " is not a valid name.");
     // One search serves the check and the insertion.
-    const auto [known, inserted] = aliases_.try_emplace(alias, &functor, position);
-    if (!inserted) {
-        const ScriptPosition& first = known->second.second;
+    if (const ScriptAliasTable::Entry* known = aliases_.insert(alias, functor, position)) {
+        const ScriptPosition& first = known->position;
         std::string message = "The alias " + FunctorNameUtils::quote(alias) + " is already used";
         if (first.isKnown())
             message += " at line " + std::to_string(first.line) + ", column "
@@ -248,12 +247,12 @@ void ScriptBuilder::finish()
 
 void ScriptBuilder::resolve(const PendingBinding& binding) const
 {
-    auto known = aliases_.find(binding.alias);
-    if (known == aliases_.end())
+    const ScriptAliasTable::Entry* known = aliases_.find(binding.alias);
+    if (!known)
         ExceptionUtils::raiseAt<ParseError>(binding.position,
                                             "The alias " + FunctorNameUtils::quote(binding.alias)
                                                 + " is not defined in this script.");
-    const Functor& peer = *known->second.first;
+    const Functor& peer = *known->functor;
     OutputPort* output = findOutput(peer, binding.output, *binding.port);
     if (!output)
         ExceptionUtils::raiseAt<ParseError>(binding.position,

@@ -7,13 +7,13 @@
 #include "base/graph/InputPort.h"
 #include "base/parse/ParseError.h"
 #include "base/parse/ScannerTypes.h"
+#include "base/script/ScriptAliasTable.h"
 #include "base/script/ScriptValueReaders.h"
 #include "base/util/ScriptPosition.h"
 
 #include <functional>
 #include <memory>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -115,8 +115,7 @@ private:
     Script& script_;
     std::vector<Frame> frames_;
     std::vector<std::pair<std::string, std::string>> pendingProperties_;
-    // Looked up for every alias defined and every reference resolved; never listed.
-    std::unordered_map<std::string, std::pair<Functor*, ScriptPosition>> aliases_;
+    ScriptAliasTable aliases_;
     std::vector<PendingBinding> bindings_;
     ScriptValueReaders valueReaders_;
 };

@@ -1,31 +1,40 @@
 #ifndef VRK_BASE_UTIL_SCRIPTFILENAME_H
 #define VRK_BASE_UTIL_SCRIPTFILENAME_H
 
-#include <cstring>
+#include <ostream>
 #include <string>
 
 namespace VRK {
 
-// The file name that script positions carry. Parsing copies its iterators at every
-// step, and each copy copies the position: so the position points at a name that the
-// scanner keeps for the whole parse instead of holding a string of its own.
+// The name of a script file as positions carry it. Readers note a position for every
+// functor, port and binding they read, and parsing copies positions at every step: each
+// distinct name is kept once, for the program's lifetime, and a position points at it,
+// so that copying one copies a pointer, however long the name.
 class ScriptFileName {
 public:
-    // `name` must outlive every position that carries it.
-    ScriptFileName(const char* name = "") : name_(name) {}
-    // A temporary string would leave the position pointing at freed text.
-    ScriptFileName(const std::string&) = delete;
+    // The empty name: no file.
+    ScriptFileName();
+    ScriptFileName(const std::string& name);
+    ScriptFileName(const char* name);
 
-    const char* c_str() const { return name_; }
-    operator std::string() const { return name_; }
-    bool operator==(const ScriptFileName& other) const
-    {
-        return std::strcmp(name_, other.name_) == 0;
-    }
+    const std::string& str() const { return *name_; }
+    operator const std::string&() const { return *name_; }
+    const char* c_str() const { return name_->c_str(); }
+    bool empty() const { return name_->empty(); }
+
+    // One text per name: equal names are the same text.
+    bool operator==(const ScriptFileName& other) const { return name_ == other.name_; }
+    bool operator!=(const ScriptFileName& other) const { return name_ != other.name_; }
+    bool operator==(const std::string& other) const { return *name_ == other; }
+    bool operator!=(const std::string& other) const { return *name_ != other; }
+    bool operator==(const char* other) const { return *name_ == other; }
+    bool operator!=(const char* other) const { return *name_ != other; }
 
 private:
-    const char* name_;
+    const std::string* name_;
 };
+
+std::ostream& operator<<(std::ostream& out, const ScriptFileName& name);
 
 } // namespace VRK
 

@@ -1,14 +1,15 @@
 #ifndef VRK_BASE_UTIL_SCRIPTPOSITION_H
 #define VRK_BASE_UTIL_SCRIPTPOSITION_H
 
+#include "base/util/ScriptFileName.h"
+
 #include <ostream>
-#include <string>
 
 namespace VRK {
 
 // Where something stands in a script file; line 0 when unknown.
 struct ScriptPosition {
-    std::string file;
+    ScriptFileName file;
     int line = 0;
     int column = 0;
 

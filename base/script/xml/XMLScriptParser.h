@@ -50,7 +50,7 @@ private:
 
     ScriptBuilder& builder_;
     const std::string& text_;
-    std::string filename_;
+    ScriptFileName filename_;
     std::vector<size_t> lineStarts_;
     pugi::xml_document document_;
 };
