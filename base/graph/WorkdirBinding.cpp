@@ -38,6 +38,11 @@ bool WorkdirBinding::isImplicitlyBound(const InputPort& port)
     return port.isBound() && port.getPeer() == findImplicitPeer(port);
 }
 
+bool WorkdirBinding::givesWorkdir(const ContainerFunctor& container)
+{
+    return container.getInternalOutputPort(WorkdirPortName) != nullptr;
+}
+
 void WorkdirBinding::bindAll(const FunctorContainer& container)
 {
     FunctorWalk::forEach(container, [](const Functor& functor) {

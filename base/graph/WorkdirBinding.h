@@ -3,6 +3,7 @@
 
 namespace VRK {
 
+class ContainerFunctor;
 class FunctorContainer;
 class InputPort;
 class OutputPort;
@@ -20,6 +21,8 @@ public:
     // Whether `port` is bound exactly as the host would bind it.
     static bool isImplicitlyBound(const InputPort& port);
     // Binds every unbound work-directory input inside `container`, at every depth.
+    // True when `container` gives the functors inside it a work directory.
+    static bool givesWorkdir(const ContainerFunctor& container);
     static void bindAll(const FunctorContainer& container);
 };
 

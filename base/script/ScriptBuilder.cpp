@@ -127,6 +127,8 @@ void ScriptBuilder::beginContents(const ScriptPosition& position)
                                                           + FunctorNameUtils::describe(functor)
                                                           + " is not a container: it holds no "
                                                             "functors.");
+    if (WorkdirBinding::givesWorkdir(*container))
+        workdirsGiven_ = true;
     frames_.push_back(Frame{container, container, nullptr, {}});
 }
 
@@ -179,10 +181,10 @@ std::string ScriptBuilder::unknownPortMessage(const Functor& functor, const std:
     return message + " Its inputs are " + listPortNames(inputs) + ".";
 }
 
-void ScriptBuilder::bind(InputPort& port, const std::string& alias, const std::string& output,
+void ScriptBuilder::bind(InputPort& port, std::string alias, std::string output,
                          const ScriptPosition& position)
 {
-    bindings_.push_back(PendingBinding{&port, alias, output, position});
+    bindings_.push_back(PendingBinding{&port, std::move(alias), std::move(output), position});
 }
 
 DataEditor& ScriptBuilder::takeValueEditor(InputPort& port, const ScriptPosition& position)
@@ -242,7 +244,10 @@ void ScriptBuilder::finish()
     for (const auto& binding : bindings_)
         resolve(binding);
     bindings_.clear();
-    WorkdirBinding::bindAll(script_);
+    // Only the contents of a container that gives a work directory have one to bind:
+    // most scripts need no second walk over all their functors.
+    if (workdirsGiven_)
+        WorkdirBinding::bindAll(script_);
 }
 
 void ScriptBuilder::resolve(const PendingBinding& binding) const

@@ -55,7 +55,7 @@ public:
     // internal input), noted as given by the script at `position`.
     InputPort& takePort(const std::string& name, const ScriptPosition& position);
     // Binds `port` to the output `output` of the functor aliased `alias`.
-    void bind(InputPort& port, const std::string& alias, const std::string& output,
+    void bind(InputPort& port, std::string alias, std::string output,
               const ScriptPosition& position);
     // The reader of `port`'s type, to read a value in place into the port's editor; the
     // port counts as set.
@@ -116,6 +116,7 @@ private:
     std::vector<Frame> frames_;
     std::vector<std::pair<std::string, std::string>> pendingProperties_;
     ScriptAliasTable aliases_;
+    bool workdirsGiven_ = false;
     std::vector<PendingBinding> bindings_;
     ScriptValueReaders valueReaders_;
 };

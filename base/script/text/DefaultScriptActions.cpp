@@ -9,6 +9,7 @@
 #include "base/script/ScriptBuilder.h"
 #include "base/util/QuotedText.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cctype>
 #include <memory>
@@ -143,10 +144,10 @@ void DefaultScriptActions::port(const ScriptIterator&, const ScriptIterator&)
 void DefaultScriptActions::reference(const ScriptIterator& first, const ScriptIterator& last)
 {
     assert(port_ != 0 && "a binding names its input before its value");
-    const std::string text = textOf(first, last);
-    const size_t dot = text.find('.');
-    assert(dot != std::string::npos && "the grammar matches references as alias.port");
-    builder_.bind(*port_, text.substr(0, dot), text.substr(dot + 1), positionOf(first));
+    const char* dot = std::find(first.base(), last.base(), '.');
+    assert(dot != last.base() && "the grammar matches references as alias.port");
+    builder_.bind(*port_, std::string(first.base(), dot), std::string(dot + 1, last.base()),
+                  positionOf(first));
 }
 
 std::ptrdiff_t DefaultScriptActions::value(const ScriptScanner& scan)
