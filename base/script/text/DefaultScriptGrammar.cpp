@@ -61,16 +61,21 @@ public:
 
 using Action = void (DefaultScriptActions::*)(const ScriptIterator&, const ScriptIterator&);
 
-// A semantic action on matched text that calls `action` of `actions`.
-auto on(DefaultScriptActions& actions, Action action)
+// A semantic action on matched text that calls `action` of `actions`, known when
+// compiled so that the call is direct.
+template <Action action>
+auto on(DefaultScriptActions& actions)
 {
-    return [&actions, action](const ScriptIterator& first, const ScriptIterator& last) {
+    return [&actions](const ScriptIterator& first, const ScriptIterator& last) {
         (actions.*action)(first, last);
     };
 }
 
 } // namespace
 
+// The statements are parsed by one expression rather than rules that call each other
+// through virtual functions at every name and value: only the two start rules are
+// rules. Nothing recurses: a container's braces are statements of their own.
 template <class ScannerT>
 struct DefaultScriptGrammar::definition {
     using Rule = rule<ScannerT>;
@@ -80,67 +85,63 @@ struct DefaultScriptGrammar::definition {
         static_assert(std::is_same<ScannerT, ScriptScanner>::value,
                       "text scripts are read by the script scanner");
         using Spirit::transduced_assertive_p;
-        DefaultScriptActions& a = self.getActions();
+        using A = DefaultScriptActions;
+        A& a = self.getActions();
         const FunctorParser& functorNames = *FactoryFarmManager::Instance().getFunctorParser();
         const WordParser word;
 
-        identifier = lexeme_d[word];
-        quoted = lexeme_d[ch_p('"') >> *((ch_p('\\') >> anychar_p) | (anychar_p - '"')) >> '"'];
+        const auto identifier = lexeme_d[word];
+        const auto quoted =
+            lexeme_d[ch_p('"') >> *((ch_p('\\') >> anychar_p) | (anychar_p - '"')) >> '"'];
 
-        property = str_p("@")
-                   >> transduced_assertive_p(identifier[on(a, &DefaultScriptActions::propertyName)],
-                                             "Expecting a property name after \"@\".")
-                   >> transduced_assertive_p(str_p("="), "Expecting \"=\" after the property name.")
-                   >> transduced_assertive_p(quoted[on(a, &DefaultScriptActions::propertyValue)],
-                                             "Expecting a property value enclosed by '\"'.");
+        const auto property =
+            str_p("@") >> transduced_assertive_p(identifier[on<&A::propertyName>(a)],
+                                                 "Expecting a property name after \"@\".")
+            >> transduced_assertive_p(str_p("="), "Expecting \"=\" after the property name.")
+            >> transduced_assertive_p(quoted[on<&A::propertyValue>(a)],
+                                      "Expecting a property value enclosed by '\"'.");
 
-        functorName =
+        const auto functorName =
             lexeme_d[functorNames[([&a](const std::string& name) { a.functorName(name); })]
-                     >> ~eps_p(alnum_p | '_')][on(a, &DefaultScriptActions::beginFunctor)]
-            | identifier[on(a, &DefaultScriptActions::unknownFunctor)];
+                     >> ~eps_p(alnum_p | '_')][on<&A::beginFunctor>(a)]
+            | identifier[on<&A::unknownFunctor>(a)];
 
         // A word without a point after it is no reference: it is left to the value's
         // reader, which says what a value of the input's type looks like.
-        reference = eps_p(lexeme_d[word >> '.'])
-                    >> transduced_assertive_p(
-                        lexeme_d[word >> '.' >> word][on(a, &DefaultScriptActions::reference)],
-                        "Expecting a value, or a reference of the form alias.port.");
+        const auto reference = eps_p(lexeme_d[word >> '.']) >> transduced_assertive_p(
+                                   lexeme_d[word >> '.' >> word][on<&A::reference>(a)],
+                                   "Expecting a value, or a reference of the form alias.port.");
 
-        binding = (identifier[on(a, &DefaultScriptActions::word)]
-                   >> '=')[on(a, &DefaultScriptActions::port)]
-                  >> (reference | InPlaceValueParser(a));
+        const auto binding = (identifier[on<&A::word>(a)] >> '=')[on<&A::port>(a)]
+                             >> (reference | InPlaceValueParser(a));
 
         // A container's braces are statements of their own, matched against an explicit
         // stack in the actions: nesting costs no machine stack, however deep it goes.
-        closing = str_p("}")[on(a, &DefaultScriptActions::endContents)];
+        const auto closing = str_p("}")[on<&A::endContents>(a)];
 
-        functor =
-            !(identifier[on(a, &DefaultScriptActions::word)] >> str_p(
+        const auto functor =
+            !(identifier[on<&A::word>(a)] >> str_p(
                   ":=")[([&a](const ScriptIterator&, const ScriptIterator&) { a.aliasDefined(); })])
             >> transduced_assertive_p(functorName, "Expecting a functor name.") >> *binding
-            >> (str_p(";") | str_p("{")[on(a, &DefaultScriptActions::beginContents)]
-                | eps_p[on(a, &DefaultScriptActions::unterminatedFunctor)]);
+            >> (str_p(";") | str_p("{")[on<&A::beginContents>(a)]
+                | eps_p[on<&A::unterminatedFunctor>(a)]);
 
-        statement =
+        const auto statement =
             eps_p(ch_p('@') | alpha_p | '_')
-                >> ((+property
-                     >> (str_p(";")[on(a, &DefaultScriptActions::scriptProperties)] | functor))
-                    | functor)
+                >> ((+property >> (str_p(";")[on<&A::scriptProperties>(a)] | functor)) | functor)
             | closing;
 
-        script = *statement >> eps_p[on(a, &DefaultScriptActions::endOfStatements)]
+        script = *statement >> eps_p[on<&A::endOfStatements>(a)]
                  >> transduced_assertive_p(end_p, "Expecting a functor name.");
 
-        scriptProperties =
-            *(+property >> str_p(";")[on(a, &DefaultScriptActions::scriptProperties)]);
+        scriptProperties = *(+property >> str_p(";")[on<&A::scriptProperties>(a)]);
 
         start_ = self.isPropertiesOnly() ? &scriptProperties : &script;
     }
 
     const Rule& start() const { return *start_; }
 
-    Rule identifier, quoted, property, functorName, reference, binding, closing, functor, statement,
-        script, scriptProperties;
+    Rule script, scriptProperties;
     const Rule* start_;
 };
 
