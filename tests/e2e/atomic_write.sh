@@ -38,20 +38,25 @@ grep -q "cannot be written" limited.err || fail "no reason given: $(cat limited.
 [ "$(cat limited.vrk)" = old ] || fail "the size limit changed the target"
 no_temporaries "the size limit"
 
-# The signal comes while the temporary file is being written.
+# The signal comes while the temporary file is being written. On a busy machine the
+# write may end before the signal is sent: that attempt shows nothing and is made again.
 for signal in TERM INT; do
-    rm -f "signalled.vrk"
-    "$vrk" convert big.vrk signalled.vrk &
-    pid=$!
-    for _ in $(seq 1 3000); do
-        [ -n "$(find . -name '.signalled.vrk.*.tmp')" ] && break
-        sleep 0.01
-    done
-    kill "-$signal" "$pid"
-    wait "$pid"
-    status=$?
     expected=143
     [ "$signal" = INT ] && expected=130
+    status=0
+    for _ in 1 2 3 4 5; do
+        rm -f "signalled.vrk"
+        "$vrk" convert big.vrk signalled.vrk &
+        pid=$!
+        for _ in $(seq 1 3000); do
+            [ -n "$(find . -name '.signalled.vrk.*.tmp')" ] && break
+            sleep 0.01
+        done
+        kill "-$signal" "$pid" 2> /dev/null
+        wait "$pid"
+        status=$?
+        [ "$status" = 0 ] || break
+    done
     [ "$status" = "$expected" ] || fail "SIG$signal during a write ended with status $status"
     no_temporaries "SIG$signal"
 done
