@@ -91,7 +91,7 @@ struct ChooseBy {
         const V b = B::at(values);
         const V chosen = Comparison::holds(a, b) ? Then::at(values) : Otherwise::at(values);
         // V{} + Null: null in every lane.
-        return (a == a) & (b == b) ? chosen : V{} + Ops::Null;
+        return ((a == a) & (b == b)) ? chosen : V{} + Ops::Null;
     }
 };
 
