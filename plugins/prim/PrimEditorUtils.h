@@ -37,9 +37,12 @@ public:
     template <class DataT>
     static void pack(VRK::DataEditor& editor, const typename DataT::ValueType& value)
     {
-        if (editor.hasData() && typeid(editor.getData()) == typeid(DataT)
-            && same(VRK::DataCast::find<DataT>(editor.getData())->getValue(), value))
-            return;
+        if (editor.hasData()) {
+            const VRK::BaseData& packed = editor.getData();
+            if (typeid(packed) == typeid(DataT)
+                && same(VRK::DataCast::find<DataT>(packed)->getValue(), value))
+                return;
+        }
         editor.setDataPtr(VRK::DataPool::make<DataT>(value));
     }
 
