@@ -65,6 +65,49 @@ const char* const KeyName = "Expecting a valid predefined key name.";
 const char* const TableForms =
     "Expecting '[==', '[=', '[' '[<=', '[<', '[>=', '[>', '[><', '[/' or '{'.";
 
+// How deep parts of a formula may lie inside one another (parentheses, signs, calls,
+// conditionals, lookups): each level takes the machine stack of the whole chain of
+// operator levels, and a formula nested thousands deep would overflow it.
+const int MaxNesting = 100;
+
+// Counts the levels of its subject nested in one another, and refuses one too many.
+template <class SubjectT>
+struct nesting_guard : public sc::unary<SubjectT, sc::parser<nesting_guard<SubjectT>>> {
+    using self_t = nesting_guard<SubjectT>;
+    using base_t = sc::unary<SubjectT, sc::parser<self_t>>;
+    using parser_category_t = sc::unary_parser_category;
+
+    template <class ScannerT>
+    struct result {
+        using type = typename sc::parser_result<SubjectT, ScannerT>::type;
+    };
+
+    nesting_guard(const SubjectT& subject, int* depth) : base_t(subject), depth_(depth) {}
+
+    template <class ScannerT>
+    typename sc::parser_result<self_t, ScannerT>::type parse(const ScannerT& scan) const
+    {
+        if (*depth_ >= MaxNesting)
+            VRK::ExceptionUtils::raise<VRK::Exception>(
+                "The formula nests more than " + std::to_string(MaxNesting)
+                + " levels of parentheses, signs, calls, conditionals or lookups.");
+        ++*depth_;
+        struct Leave {
+            int* depth;
+            ~Leave() { --*depth; }
+        } leave{depth_};
+        return this->subject().parse(scan);
+    }
+
+    int* depth_;
+};
+
+template <class SubjectT>
+nesting_guard<SubjectT> nested(const SubjectT& subject, int* depth)
+{
+    return nesting_guard<SubjectT>(subject, depth);
+}
+
 template <class ParserT>
 VRK::Spirit::transduced_assertive_parser<typename sc::as_parser<ParserT>::type>
 expect(const ParserT& parser, const char* message)
@@ -199,6 +242,8 @@ struct ImageExpressionReaderGrammar<ScannerT>::Rules {
     sc::symbols<NodeBuilder> nullaryFunctions, unaryFunctions, binaryFunctions,
         neighborhoodFunctions, imageFunctions, bracketForms;
     sc::symbols<int> keyNames;
+    // The levels of `primary` being parsed inside one another.
+    int nesting = 0;
 
     phoenix::function<IER::build_impl> build;
     phoenix::function<IER::build_binary_impl> buildBinary;
@@ -326,7 +371,9 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::defineLevels()
     defineLevel(multiplicative, power, ~sc::eps_p(sc::str_p("/=")), multiplicativeOperators);
     // Power is the one level that builds to the right.
     power = catchLevel[power.val = arg1]
-            >> !(sc::ch_p('^') >> expect(power, Subexpression)[power.val = makePow(power.val, arg1)]);
+            >> !(sc::ch_p('^')
+                 >> expect(nested(power, &nesting), Subexpression)[power.val =
+                                                                       makePow(power.val, arg1)]);
     catchLevel =
         primary[catchLevel.val = arg1]
         >> *(sc::ch_p('?')
@@ -358,7 +405,7 @@ template <class ScannerT>
 void ImageExpressionReaderGrammar<ScannerT>::Rules::definePrimary()
 {
     using phoenix::arg1;
-    primary = (sc::ch_p('(') >> expect(expression, Subexpression)[primary.val = arg1]
+    primary = nested((sc::ch_p('(') >> expect(expression, Subexpression)[primary.val = arg1]
                >> expect(sc::ch_p(')'), CloseParenthesis))
               | (sc::ch_p('-') >> expect(primary, Subexpression)[primary.val = makeMinus(arg1)])
               | (sc::ch_p('+') >> expect(primary, Subexpression)[primary.val = arg1])
@@ -366,7 +413,8 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::definePrimary()
                  >> expect(primary, Subexpression)[primary.val = makeNot(arg1)])
               | number[primary.val = arg1] | call[primary.val = arg1]
               | conditional[primary.val = arg1] | tableLookup[primary.val = arg1]
-              | imageValue[primary.val = arg1] | variable[primary.val = makeVariable(arg1)];
+              | imageValue[primary.val = arg1] | variable[primary.val = makeVariable(arg1)],
+                     &nesting);
 }
 
 template <class ScannerT>

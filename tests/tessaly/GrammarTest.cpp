@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
 
 namespace Tessaly {
 namespace {
@@ -155,6 +156,33 @@ TEST(GrammarTest, ThePlainScannerReadsTheSameLanguageWithTheSameMessages)
         } catch (const VRK::ParseError& error) {
             EXPECT_EQ(error.getMessage(), failure.message) << failure.formula;
             EXPECT_EQ(error.getPosition().column, failure.column) << failure.formula;
+        }
+    }
+}
+
+// Nesting is bounded, so that no formula overflows the stack: 100 levels read, the
+// 101st is refused where it begins, however it nests.
+TEST(GrammarTest, NestingIsRefusedBeyondItsLimitWhereItBegins)
+{
+    const auto nest = [](const std::string& open, const std::string& close, int levels) {
+        std::string text;
+        for (int i = 0; i < levels; ++i)
+            text += open;
+        text += "1";
+        for (int i = 0; i < levels; ++i)
+            text += close;
+        return text;
+    };
+    EXPECT_EQ(treeText(*readFormula(nest("(", ")", 99))), "1");
+    EXPECT_EQ(treeText(*readFormula(nest("-", "", 99))).substr(0, 11), "UnaryMinus(");
+    for (const std::string& deep : {nest("(", ")", 100), nest("-", "", 100), nest("abs(", ")", 100),
+                                    nest("(", ")", 5000), nest("1 ^ ", "", 5000)}) {
+        try {
+            readFormula(deep);
+            ADD_FAILURE() << deep.size() << " characters of nesting were read";
+        } catch (const VRK::ParseError& error) {
+            EXPECT_EQ(error.getMessage(), "The formula nests more than 100 levels of parentheses, "
+                                          "signs, calls, conditionals or lookups.");
         }
     }
 }
