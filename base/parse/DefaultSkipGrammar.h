@@ -1,7 +1,7 @@
 #ifndef VRK_BASE_PARSE_DEFAULTSKIPGRAMMAR_H
 #define VRK_BASE_PARSE_DEFAULTSKIPGRAMMAR_H
 
-#include "base/parse/ScriptCharClass.h"
+#include "base/util/ScriptCharClass.h"
 
 #include <boost/spirit/include/classic_core.hpp>
 

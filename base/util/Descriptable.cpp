@@ -1,31 +1,13 @@
 #include "base/util/Descriptable.h"
 
+#include "base/util/InternedText.h"
+
 #include <cstdint>
 #include <cstring>
-#include <memory>
-#include <mutex>
-#include <unordered_map>
 
 namespace VRK {
 
 namespace {
-
-// Texts kept for the program's lifetime, so that objects may point at them, even
-// objects that static destructors destroy last. Their number is that of the distinct
-// descriptions the plugins give, not of the objects.
-const std::string* intern(std::string_view text)
-{
-    static std::mutex mutex;
-    static auto* texts = new std::unordered_map<std::string_view, std::unique_ptr<std::string>>;
-    std::lock_guard<std::mutex> lock(mutex);
-    auto found = texts->find(text);
-    if (found != texts->end())
-        return found->second.get();
-    auto kept = std::make_unique<std::string>(text);
-    const std::string* result = kept.get();
-    texts->emplace(*result, std::move(kept));
-    return result;
-}
 
 // Most descriptions are literals, met again and again at the same address: a small
 // cache per thread, by address, answers those without the lock. The text is compared
@@ -41,7 +23,7 @@ const std::string* internCached(std::string_view text)
     if (slot.address == text.data() && slot.interned->size() == text.size()
         && std::memcmp(slot.interned->data(), text.data(), text.size()) == 0)
         return slot.interned;
-    slot = Slot{text.data(), intern(text)};
+    slot = Slot{text.data(), InternedText::of(text)};
     return slot.interned;
 }
 

@@ -1,20 +1,15 @@
 #include "base/util/NameUtils.h"
 
-#include <cctype>
+#include "base/util/ScriptCharClass.h"
 
 namespace VRK {
 
-namespace {
-bool isLetter(char c) { return std::isalpha(static_cast<unsigned char>(c)) || c == '_'; }
-bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
-} // namespace
-
 bool NameUtils::isValidName(const std::string& name)
 {
-    if (name.empty() || !isLetter(name[0]))
+    if (name.empty() || !ScriptCharClass::isWordStart(name[0]))
         return false;
     for (char c : name)
-        if (!isLetter(c) && !isDigit(c))
+        if (!ScriptCharClass::isWordChar(c))
             return false;
     return true;
 }

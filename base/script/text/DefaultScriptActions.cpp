@@ -4,10 +4,10 @@
 #include "base/graph/Functor.h"
 #include "base/graph/FunctorNameUtils.h"
 #include "base/parse/ParseError.h"
-#include "base/parse/ScriptCharClass.h"
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/script/ScriptBuilder.h"
 #include "base/util/QuotedText.h"
+#include "base/util/ScriptCharClass.h"
 
 #include <algorithm>
 #include <cassert>

@@ -1,10 +1,10 @@
 #include "base/script/text/DefaultScriptGrammar.h"
 
-#include "base/parse/ScriptCharClass.h"
 #include "base/parse/ScriptTextScanner.h"
 #include "base/parse/TransducedAssertiveParser.h"
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/script/text/DefaultScriptActions.h"
+#include "base/util/ScriptCharClass.h"
 
 #include <boost/spirit/include/classic_symbols.hpp>
 
