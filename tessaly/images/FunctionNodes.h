@@ -130,7 +130,8 @@ TESSALY_BINARY(Minus, return a - b;)
 TESSALY_BINARY(Times, return a * b;)
 TESSALY_BINARY(Divide, return b == 0 ? Null : a / b;)
 TESSALY_BINARY(Mod, return b == 0 ? Null : a - b * std::floor(a / b);)
-TESSALY_BINARY(Pow, return std::pow(a, b);)
+// std::pow gives 1 for x ^ 0 and 1 ^ x even where x is NaN; null must stay null.
+TESSALY_BINARY(Pow, return eitherNull(a, b) ? Null : std::pow(a, b);)
 TESSALY_BINARY(Maximum, return eitherNull(a, b) ? Null : std::fmax(a, b);)
 TESSALY_BINARY(Minimum, return eitherNull(a, b) ? Null : std::fmin(a, b);)
 #undef TESSALY_BINARY

@@ -9,6 +9,8 @@
 
 #include <cmath>
 #include <map>
+#include <string>
+#include <vector>
 
 namespace Tessaly {
 namespace {
@@ -84,6 +86,41 @@ TEST(EvaluationTest, EveryOperatorAndFunctionOnHandCheckedInputs)
         else
             EXPECT_DOUBLE_EQ(value, c.value) << c.formula;
     }
+}
+
+// i2 is null at the cell; so is 1 / 0. Null on either side of any operator or in any
+// argument of a function is null, whatever the other side: even where the operation
+// alone would ignore it, as x ^ 0 and 1 ^ x do.
+TEST(EvaluationTest, NullPassesThroughEveryOperatorAndFunction)
+{
+    const char* const infix[] = {"+", "-", "*", "/", "%", "^", "and", "or",
+                                 "==", "<>", "<", "<=", ">", ">="};
+    const char* const functions[] = {"max", "min"};
+    const char* const unary[] = {"-", "not ", "sqrt", "abs", "exp", "ceil", "floor", "round",
+                                 "sin", "cos", "tan", "asin", "acos", "atan", "ln", "log",
+                                 "signal"};
+    std::vector<std::string> formulas;
+    for (const char* null : {"i2", "(1 / 0)"})
+        for (const char* other : {"0", "1", "v1", "i1"}) {
+            for (const char* op : infix) {
+                formulas.push_back(std::string(null) + " " + op + " " + other);
+                formulas.push_back(std::string(other) + " " + op + " " + null);
+            }
+            for (const char* function : functions) {
+                formulas.push_back(std::string(function) + "(" + null + ", " + other + ")");
+                formulas.push_back(std::string(function) + "(" + other + ", " + null + ")");
+            }
+        }
+    for (const char* function : unary)
+        formulas.push_back(std::string(function) + "(i2)");
+    for (const std::string& formula : formulas) {
+        const double value = evaluate(formula);
+        EXPECT_TRUE(std::isnan(value)) << formula << " gives " << value;
+    }
+    // The three that do not pass it on.
+    EXPECT_EQ(evaluate("i2 ? 0 ^ 0"), 1);
+    EXPECT_EQ(evaluate("isnull(i2) ^ 0"), 1);
+    EXPECT_EQ(evaluate("if 1 then 1 ^ 0 else i2 ^ 0"), 1);
 }
 
 TEST(EvaluationTest, AbortNamesTheFormula)

@@ -172,6 +172,49 @@ TEST(ImageCalculatorTest, LocalOperatorsAndFunctionsMatchTheReference)
     });
 }
 
+// A null cell of i1 gives a null result through any operator or function, on either
+// side and against a map, a value or a number, including those (x ^ 0, 1 ^ x) that
+// alone would ignore it; the scalar part is worked out once, the rest block by block.
+TEST(ImageCalculatorTest, NullCellsStayNullThroughEveryOperator)
+{
+    const char* const infix[] = {"+", "-", "*", "/", "%", "^", "and", "or",
+                                 "==", "<>", "<", "<=", ">", ">="};
+    const char* const unary[] = {"-", "not ", "sqrt", "abs", "exp", "ceil", "floor", "round",
+                                 "sin", "cos", "tan", "asin", "acos", "atan", "ln", "log",
+                                 "signal"};
+    std::vector<std::string> formulas;
+    for (const char* other : {"0", "1", "v1", "i2", "(v1 - 3)"}) {
+        for (const char* op : infix) {
+            formulas.push_back(std::string("i1 ") + op + " " + other);
+            formulas.push_back(std::string(other) + " " + op + " i1");
+        }
+        for (const char* function : {"max", "min"}) {
+            formulas.push_back(std::string(function) + "(i1, " + other + ")");
+            formulas.push_back(std::string(function) + "(" + other + ", i1)");
+        }
+    }
+    for (const char* function : unary)
+        formulas.push_back(std::string(function) + "(i1)");
+    const TestMap a = TestMap::random(4, 300, 11);
+    TestMap b = a;
+    for (double& cell : b.cells)
+        cell = std::isnan(cell) ? 1 : 0;
+    const Raster i1 = a.toRaster(CellType::Float32, -9999);
+    const Raster i2 = b.toRaster(CellType::Float32, -9999);
+    const TestInputs named{{{"i1", &i1}, {"i2", &i2}}, {{"v1", 3}}, {}};
+    for (const std::string& text : formulas) {
+        const auto formula = compiledFormula(text);
+        const ImageCalculationInputs inputs = named.forFormula(formula->getDictionary());
+        const Raster result = ImageCalculator(*formula).calculate(inputs, CellType::Float32, 1, {});
+        int wrong = 0;
+        for (int l = 0; l < a.lines; ++l)
+            for (int c = 0; c < a.columns; ++c)
+                if (std::isnan(a.at(l, c)) && !std::isnan(result.getValue(l, c)))
+                    ++wrong;
+        EXPECT_EQ(wrong, 0) << text << " is not null on " << wrong << " null cells of i1";
+    }
+}
+
 // Each statistic over the window's values in their line-by-line order.
 double statistic(const std::string& name, const std::vector<std::pair<int, double>>& cells)
 {
