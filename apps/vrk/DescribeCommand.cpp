@@ -12,13 +12,31 @@ std::string typeName(const VRK::DataHolder& port)
     return port.getType() ? port.getType()->getName() : std::string("(untyped)");
 }
 
+// A value that a writer spreads over several lines (a formula between its brackets)
+// is shown on the port's one line, each line break and the indentation after it made
+// one blank.
+std::string onOneLine(const std::string& text)
+{
+    std::string line;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\n') {
+            line += text[i];
+            continue;
+        }
+        while (i + 1 < text.size() && text[i + 1] == ' ')
+            ++i;
+        line += ' ';
+    }
+    return line;
+}
+
 // The editor's present value in script syntax, when the type has a writer.
 std::string defaultValue(const VRK::InputPort& port)
 {
     auto writers = VRK::FactoryFarmManager::Instance().getDataWriterFactory();
     if (!port.hasDataEditor() || !port.getType() || !writers->isRegistered(port.getType()->getName()))
         return std::string();
-    return VRK::ScriptWritingPlan::getValueText(port);
+    return onOneLine(VRK::ScriptWritingPlan::getValueText(port));
 }
 
 void describeInput(const VRK::Functor& functor, const VRK::InputPort& port, const char* direction,
@@ -61,6 +79,9 @@ int DescribeCommand::run(const std::string& name, std::ostream& out, std::ostrea
             out << '\n';
         }
     auto functor = factory->create(name);
+    // A default that depends on the functor (a formula over its own maps or tables) is
+    // made only when its editor is prepared, as before a run.
+    functor->preparePorts();
     out << "  \"" << functor->getDescription() << "\"\n";
     for (const auto& port : functor->getInputPorts())
         describeInput(*functor, *port, "input", out);
