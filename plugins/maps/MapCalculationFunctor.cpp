@@ -78,11 +78,13 @@ std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
     const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
     const VRK::Task* task = VRK::Task::getCurrentTask();
     const int processors = int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
+    const std::function<void()> checkpoint = [task] {
+        if (task)
+            task->checkCancellation();
+    };
     return std::make_shared<const Tessaly::Raster>(
-        Tessaly::ImageCalculator(expression).calculate(inputs, cellType_, processors, [task] {
-            if (task)
-                task->checkCancellation();
-        }));
+        Tessaly::ImageCalculator(expression, checkpoint)
+            .calculate(inputs, cellType_, processors, checkpoint));
 }
 
 } // namespace Maps

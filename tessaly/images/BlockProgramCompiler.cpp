@@ -16,13 +16,17 @@
 #include <cstring>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace Tessaly {
 
 namespace {
 
+// Links of a chain compiled between two calls of the checkpoint.
+constexpr size_t LinksPerCheckpoint = 4096;
+
 using UnaryMaker = BlockStepPtr (*)(Operand, int);
-using BinaryMaker = BlockStepPtr (*)(Operand, Operand, int);
+using BinaryMaker = BlockProgramCompiler::BinaryMaker;
 
 template <class Op>
 std::pair<std::string, UnaryMaker> unary()
@@ -118,30 +122,6 @@ bool isNamed(const ImageExpression& node, const char* name)
     return std::strcmp(node.getName(), name) == 0;
 }
 
-bool anyInTree(const ImageExpression& node, bool (*test)(const ImageExpression&))
-{
-    if (test(node))
-        return true;
-    for (size_t i = 0; i < node.getChildCount(); ++i)
-        if (anyInTree(node.getChild(i), test))
-            return true;
-    return false;
-}
-
-bool abortsOrDraws(const ImageExpression& node)
-{
-    return isNamed(node, "Abort") || isNamed(node, "Rand");
-}
-
-// Abort and rand count as varying: neither may be worked out once ahead of the cells.
-bool variesByCell(const ImageExpression& node)
-{
-    static const std::set<std::string> cellNodes = {"ImageValue", "IsNull", "ImageValue2", "Line",
-                                                    "Column",     "Rand",   "Abort"};
-    return cellNodes.count(node.getName()) != 0
-           || dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node) != nullptr;
-}
-
 int indexOf(const ImageExpression& node)
 {
     const auto* indexed = dynamic_cast<const IndexedExpression*>(&node);
@@ -149,12 +129,25 @@ int indexOf(const ImageExpression& node)
     return indexed->getIndex();
 }
 
+BlockStepPtr catchSelect(Operand guarded, Operand fallback, int result)
+{
+    return std::make_unique<BinaryStep<Ops::CatchSelect>>(guarded, fallback, result);
+}
+
 } // namespace
 
-std::unique_ptr<BlockProgram> BlockProgramCompiler::compile(const TopLevelImageExpression& formula)
+BlockProgramCompiler::BlockProgramCompiler(const TopLevelImageExpression& formula,
+                                           const std::function<void()>& checkpoint)
+    : facts_(formula.getRoot(), checkpoint), checkpoint_(checkpoint),
+      imageCount_(formula.getDictionary().getCount(EntityKind::Image))
+{
+}
+
+std::unique_ptr<BlockProgram> BlockProgramCompiler::compile(const TopLevelImageExpression& formula,
+                                                            const std::function<void()>& checkpoint)
 {
     assert(formula.isCompiled() && "formula.isCompiled()");
-    BlockProgramCompiler compiler(formula.getDictionary().getCount(EntityKind::Image));
+    BlockProgramCompiler compiler(formula, checkpoint);
     compiler.program_->setFused(FusedFormula::match(
         formula.getRoot(), [&compiler](const ImageExpression& node, FusedFormula::Leaf& leaf) {
             return compiler.findFusedLeaf(node, leaf);
@@ -169,7 +162,7 @@ bool BlockProgramCompiler::findFusedLeaf(const ImageExpression& node, FusedFormu
         leaf.image = indexOf(node);
         return true;
     }
-    if (anyInTree(node, variesByCell))
+    if (facts_.variesByCell(node))
         return false;
     leaf.scalar = compileNode(node).slot;
     return true;
@@ -177,7 +170,7 @@ bool BlockProgramCompiler::findFusedLeaf(const ImageExpression& node, FusedFormu
 
 Operand BlockProgramCompiler::compileNode(const ImageExpression& node)
 {
-    if (anyInTree(node, variesByCell))
+    if (facts_.variesByCell(node))
         return compileCellNode(node);
     if (isNamed(node, "Value"))
         return {true, program_->addConstant(
@@ -199,7 +192,13 @@ Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
             program_->addStep(std::make_unique<CellPlaceStep>(name == "Column", slot));
         return result;
     }
-    if (name == "IfThenElse" || name == "Catch")
+    if (linkMaker(node))
+        return compileChain(node);
+    // A catch that is no link holds abort or rand in its fallback, which must run only
+    // where the guarded value is null.
+    if (name == "Catch")
+        return fallBack(node);
+    if (name == "IfThenElse")
         return compileSelect(node);
     if (dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node))
         return compileWindow(node);
@@ -207,13 +206,7 @@ Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
         const Operand operand = compileNode(node.getChild(0));
         const Operand result = newRegister(slot);
         program_->addStep(unary->second(operand, slot));
-        return result;
-    }
-    if (const auto binary = binaryMakers().find(name); binary != binaryMakers().end()) {
-        const Operand left = compileNode(node.getChild(0));
-        const Operand right = compileNode(node.getChild(1));
-        const Operand result = newRegister(slot);
-        program_->addStep(binary->second(left, right, slot));
+        release(operand);
         return result;
     }
     if (const auto table = tableLookups().find(name); table != tableLookups().end()) {
@@ -221,6 +214,7 @@ Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
         const Operand result = newRegister(slot);
         const int index = static_cast<const TableExpression&>(node).getTable();
         program_->addStep(std::make_unique<TableLookupStep>(index, table->second, key, slot));
+        release(key);
         return result;
     }
     if (name == "ImageValue2") {
@@ -229,30 +223,66 @@ Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
         const Operand result = newRegister(slot);
         const int image = static_cast<const _ImageExpression::ImageValue2&>(node).getImage();
         program_->addStep(std::make_unique<ImageCellStep>(image, line, column, slot));
+        release(line);
+        release(column);
         return result;
     }
     return fallBack(node);
 }
 
+// A binary operator, or a catch whose fallback may be worked out where it is not
+// needed, compiles to one step on its two operands: such a node links a chain.
+BlockProgramCompiler::BinaryMaker BlockProgramCompiler::linkMaker(const ImageExpression& node) const
+{
+    if (!facts_.variesByCell(node))
+        return nullptr;
+    if (const auto binary = binaryMakers().find(node.getName()); binary != binaryMakers().end())
+        return binary->second;
+    if (isNamed(node, "Catch") && !facts_.abortsOrDraws(node.getChild(1)))
+        return catchSelect;
+    return nullptr;
+}
+
+// A chain (i1 + 1 + ... + 1, one node deeper per term) is compiled down its left side
+// in a loop rather than by recursion, and the registers of each link's operands are
+// given back once the link has read them, so that any length of chain compiles in time
+// proportional to it, on a bounded stack, into a few registers.
+Operand BlockProgramCompiler::compileChain(const ImageExpression& top)
+{
+    std::vector<const ImageExpression*> links{&top};
+    while (linkMaker(links.back()->getChild(0)))
+        links.push_back(&links.back()->getChild(0));
+    Operand left = compileNode(links.back()->getChild(0));
+    for (auto link = links.rbegin(); link != links.rend(); ++link) {
+        if (checkpoint_ && ++compiled_ % LinksPerCheckpoint == 0)
+            checkpoint_();
+        const Operand right = compileNode((*link)->getChild(1));
+        int slot;
+        const Operand result = newRegister(slot);
+        program_->addStep(linkMaker(**link)(left, right, slot));
+        release(left);
+        release(right);
+        left = result;
+    }
+    return left;
+}
+
 Operand BlockProgramCompiler::compileSelect(const ImageExpression& node)
 {
-    for (size_t i = 1; i < node.getChildCount(); ++i)
-        if (anyInTree(node.getChild(i), abortsOrDraws))
-            return fallBack(node);
+    if (facts_.abortsOrDraws(node.getChild(1)) || facts_.abortsOrDraws(node.getChild(2)))
+        return fallBack(node);
     const auto fused = selectMakers().find(node.getChild(0).getName());
-    if (node.getChildCount() == 3 && fused != selectMakers().end())
+    if (fused != selectMakers().end())
         return compileSelectBy(node, fused->second);
     std::array<Operand, 3> operands;
-    for (size_t i = 0; i < node.getChildCount(); ++i)
+    for (size_t i = 0; i < 3; ++i)
         operands[i] = compileNode(node.getChild(i));
     int slot;
     const Operand result = newRegister(slot);
-    if (node.getChildCount() == 3)
-        program_->addStep(std::make_unique<TernaryStep<Ops::Select>>(operands[0], operands[1],
-                                                                     operands[2], slot));
-    else
-        program_->addStep(
-            std::make_unique<BinaryStep<Ops::CatchSelect>>(operands[0], operands[1], slot));
+    program_->addStep(std::make_unique<TernaryStep<Ops::Select>>(operands[0], operands[1],
+                                                                 operands[2], slot));
+    for (const Operand& operand : operands)
+        release(operand);
     return result;
 }
 
@@ -265,6 +295,8 @@ Operand BlockProgramCompiler::compileSelectBy(const ImageExpression& node, Selec
     int slot;
     const Operand result = newRegister(slot);
     program_->addStep(make(operands, slot));
+    for (const Operand& operand : operands)
+        release(operand);
     return result;
 }
 
@@ -275,7 +307,7 @@ Operand BlockProgramCompiler::compileWindow(const ImageExpression& node)
         return fallBack(node);
     std::array<Operand, 4> window;
     for (size_t i = 0; i < 4; ++i)
-        if (anyInTree(node.getChild(i), variesByCell))
+        if (facts_.variesByCell(node.getChild(i)))
             return fallBack(node);
     for (size_t i = 0; i < 4; ++i)
         window[i] = compileNode(node.getChild(i));
@@ -311,13 +343,29 @@ int BlockProgramCompiler::loadImage(int image)
     const int slot = program_->addRegister();
     program_->addStep(std::make_unique<ImageLoadStep>(image, slot));
     imageRegisters_[image] = slot;
+    imageSlots_.insert(slot);
     return slot;
 }
 
+// A register given back is taken again before a new one is added.
 Operand BlockProgramCompiler::newRegister(int& slot)
 {
-    slot = program_->addRegister();
+    if (freeRegisters_.empty()) {
+        slot = program_->addRegister();
+    } else {
+        slot = freeRegisters_.back();
+        freeRegisters_.pop_back();
+    }
     return {false, slot};
+}
+
+// Each node is compiled once and its result read by its parent alone, so a register
+// that holds a result is free once the parent's step is added; an image's register is
+// read by every mention of the image, and is kept.
+void BlockProgramCompiler::release(Operand operand)
+{
+    if (!operand.scalar && !imageSlots_.count(operand.slot))
+        freeRegisters_.push_back(operand.slot);
 }
 
 } // namespace Tessaly

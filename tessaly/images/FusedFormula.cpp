@@ -25,28 +25,39 @@ std::unique_ptr<FusedFormula> FusedFormula::match(const ImageExpression& root,
                                                   const LeafFinder& findLeaf)
 {
     std::unique_ptr<FusedFormula> fused(new FusedFormula());
-    const std::string signature = fused->signatureOf(root, findLeaf);
-    fused->kernel_ = signature.empty() ? nullptr : FusedKernels::find(signature);
+    std::string signature;
+    if (fused->appendSignature(root, findLeaf, signature))
+        fused->kernel_ = FusedKernels::find(signature);
     return fused->kernel_ ? std::move(fused) : nullptr;
 }
 
-// The node's shape signature, its leaves numbered as they come; empty when some node
-// is neither a leaf nor an operator, or the leaves are too many.
-std::string FusedFormula::signatureOf(const ImageExpression& node, const LeafFinder& findLeaf)
+// Appends the node's shape signature, its leaves numbered as they come; false when some
+// node is neither a leaf nor an operator, the leaves are too many, or the signature
+// grows longer than any kernel's. Each level down adds a name to the signature, so
+// that bound also bounds how deep the walk goes, whatever the depth of the tree.
+bool FusedFormula::appendSignature(const ImageExpression& node, const LeafFinder& findLeaf,
+                                   std::string& signature)
 {
+    if (signature.size() > FusedKernels::getLongestSignature())
+        return false;
     Leaf leaf;
-    if (findLeaf(node, leaf))
-        return nameLeaf(leaf);
-    if (node.getChildCount() == 0)
-        return {};
-    std::string signature = std::string(node.getName()) + "(";
-    for (size_t i = 0; i < node.getChildCount(); ++i) {
-        const std::string child = signatureOf(node.getChild(i), findLeaf);
-        if (child.empty())
-            return {};
-        signature += (i ? "," : "") + child;
+    if (findLeaf(node, leaf)) {
+        const std::string name = nameLeaf(leaf);
+        signature += name;
+        return !name.empty();
     }
-    return signature + ")";
+    if (node.getChildCount() == 0)
+        return false;
+    signature += node.getName();
+    signature += '(';
+    for (size_t i = 0; i < node.getChildCount(); ++i) {
+        if (i)
+            signature += ',';
+        if (!appendSignature(node.getChild(i), findLeaf, signature))
+            return false;
+    }
+    signature += ')';
+    return true;
 }
 
 std::string FusedFormula::nameLeaf(const Leaf& leaf)

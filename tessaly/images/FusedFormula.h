@@ -39,7 +39,8 @@ public:
 
 private:
     FusedFormula() = default;
-    std::string signatureOf(const ImageExpression& node, const LeafFinder& findLeaf);
+    bool appendSignature(const ImageExpression& node, const LeafFinder& findLeaf,
+                         std::string& signature);
     std::string nameLeaf(const Leaf& leaf);
 
     FusedKernels::Kernel kernel_ = nullptr;

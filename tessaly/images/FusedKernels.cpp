@@ -202,13 +202,29 @@ Registry makeRegistry()
     return registry;
 }
 
+const Registry& registry()
+{
+    static const Registry kernels = makeRegistry();
+    return kernels;
+}
+
 } // namespace
 
 FusedKernels::Kernel FusedKernels::find(const std::string& signature)
 {
-    static const Registry registry = makeRegistry();
-    const auto found = registry.find(signature);
-    return found == registry.end() ? nullptr : found->second;
+    const auto found = registry().find(signature);
+    return found == registry().end() ? nullptr : found->second;
+}
+
+size_t FusedKernels::getLongestSignature()
+{
+    static const size_t longest = [] {
+        size_t length = 0;
+        for (const auto& kernel : registry())
+            length = std::max(length, kernel.first.size());
+        return length;
+    }();
+    return longest;
 }
 
 } // namespace Tessaly

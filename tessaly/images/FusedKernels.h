@@ -3,6 +3,7 @@
 
 #include "tessaly/images/FusedShapes.h"
 
+#include <cstddef>
 #include <string>
 
 namespace Tessaly {
@@ -21,6 +22,8 @@ public:
 
     // The kernel of a shape signature ("Plus(Times(I0,S0),I1)"), or null.
     static Kernel find(const std::string& signature);
+    // The length of the longest signature that has a kernel.
+    static size_t getLongestSignature();
 };
 
 } // namespace Tessaly

@@ -76,8 +76,10 @@ struct ImageCalculator::Program {
                  const Checkpoint& checkpoint) const;
 };
 
-ImageCalculator::ImageCalculator(const TopLevelImageExpression& compiledFormula)
-    : program_(new Program{compiledFormula, BlockProgramCompiler::compile(compiledFormula)})
+ImageCalculator::ImageCalculator(const TopLevelImageExpression& compiledFormula,
+                                 const std::function<void()>& checkpoint)
+    : program_(new Program{compiledFormula,
+                           BlockProgramCompiler::compile(compiledFormula, checkpoint)})
 {
 }
 

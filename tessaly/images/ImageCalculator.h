@@ -29,7 +29,11 @@ struct ImageCalculationInputs {
 class ImageCalculator {
 public:
     // The calculator refers to the formula's tree: the formula must outlive it.
-    explicit ImageCalculator(const TopLevelImageExpression& compiledFormula);
+    // `checkpoint`, when set, is called every few thousand nodes while the formula is
+    // turned into the calculator's program, which takes long for a formula of many
+    // thousand terms; what it throws ends the construction.
+    explicit ImageCalculator(const TopLevelImageExpression& compiledFormula,
+                             const std::function<void()>& checkpoint = {});
     ~ImageCalculator();
 
     // The result has the first image's grid and cell type `cellType` (Float32, or Int32

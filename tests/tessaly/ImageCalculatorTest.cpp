@@ -1,6 +1,7 @@
 #include "tessaly/images/ImageCalculator.h"
 #include "base/error/ExecutionAbortedException.h"
 #include "base/error/IllegalDataException.h"
+#include "tessaly/images/BlockProgramCompiler.h"
 #include "tests/tessaly/CalculatorReference.h"
 
 #include <gtest/gtest.h>
@@ -322,6 +323,34 @@ TEST(ImageCalculatorTest, WindowSumsRecoverAfterAnInfinityLeaves)
                               return statistic(name, windowCells(m, l, c, 3, 2, 1, 0));
                           }},
                          a, b);
+}
+
+// A chain of terms compiles link by link into a couple of registers, whatever its
+// length, and the compilation hears the checkpoint; its cells are those of the
+// arithmetic, in the block steps and where the chain is evaluated cell by cell.
+TEST(ImageCalculatorTest, LongChainsCompileIntoFewRegistersAndHearTheCheckpoint)
+{
+    std::string chain = "i1";
+    for (int i = 0; i < 10000; ++i)
+        chain += " + 1 - 1";
+    chain += " + i2";
+    const auto formula = compiledFormula(chain);
+    // i1, i2 and the two operands of a link.
+    EXPECT_LE(BlockProgramCompiler::compile(*formula)->getRegisterCount(), 4);
+    int calls = 0;
+    const auto cancelAtThird = [&calls] {
+        if (++calls == 3)
+            throw std::runtime_error("cancelled");
+    };
+    EXPECT_THROW(ImageCalculator(*formula, cancelAtThird), std::runtime_error);
+    EXPECT_EQ(calls, 3);
+    const TestMap a = TestMap::random(3, 300, 21);
+    const TestMap b = TestMap::random(3, 300, 22);
+    const auto sum = [](const TestMap& a, const TestMap& b, int l, int c) {
+        return a.at(l, c) + b.at(l, c);
+    };
+    expectCalculated({chain, sum}, a, b);
+    expectCalculated({"if i1 > 100 then abort else " + chain, sum}, a, b);
 }
 
 TEST(ImageCalculatorTest, OneOrSeveralProcessorsGiveTheSameCells)
