@@ -28,10 +28,9 @@ public:
             return std::numeric_limits<double>::quiet_NaN();
         return context.getImage(image_).getValueOrNull(int(line), int(column));
     }
-    void getImageDependencies(std::set<int>& indexes) const override
+    void addOwnIndexes(EntityKind kind, std::set<int>& indexes) const override
     {
-        indexes.insert(image_);
-        BinaryExpression::getImageDependencies(indexes);
+        addOwnIndex(EntityKind::Image, image_, kind, indexes);
     }
     void acceptVisit(ImageExpressionVisitor& visitor) const override { visitor.visit(*this); }
     const char* getName() const override { return "ImageValue2"; }

@@ -15,6 +15,7 @@
 #include <charconv>
 #include <cmath>
 #include <string>
+#include <vector>
 
 namespace Tessaly {
 
@@ -94,13 +95,19 @@ public:
             arguments({&node.getLeft(), &node.getRight()});
             return;
         }
-        const bool rightAssociative = level == ImageExpressionSyntax::Power;
-        const Level left = levelOf(node.getLeft());
-        const Level right = levelOf(node.getRight());
+        // A chain (1 + 2 - 3 ...) goes one node deeper per term down its left side: its
+        // links are gathered in a loop and written from the bottom up, not by recursion.
+        std::vector<const BinaryExpression*> links{&node};
+        while (const BinaryExpression* below = infixBelow(*links.back()))
+            links.push_back(below);
         const bool outerClosed = closed_;
-        write(node.getLeft(), rightAssociative ? left <= level : left < level, false);
-        out_ << ' ' << spelling(node) << ' ';
-        write(node.getRight(), rightAssociative ? right < level : right <= level, outerClosed);
+        const BinaryExpression& bottom = *links.back();
+        write(bottom.getLeft(), leftParenthesised(bottom), false);
+        for (auto link = links.rbegin(); link != links.rend(); ++link) {
+            out_ << ' ' << spelling(**link) << ' ';
+            write((*link)->getRight(), rightParenthesised(**link),
+                  *link == &node ? outerClosed : false);
+        }
     }
 
     void visit(const _ImageExpression::ImageValue2& node) override
@@ -149,6 +156,29 @@ private:
             separator = ", ";
         }
         out_ << ')';
+    }
+
+    // `^` groups to the right, every other infix operator to the left.
+    static bool leftParenthesised(const BinaryExpression& node)
+    {
+        const Level level = levelOf(node);
+        const Level left = levelOf(node.getLeft());
+        return level == ImageExpressionSyntax::Power ? left <= level : left < level;
+    }
+    static bool rightParenthesised(const BinaryExpression& node)
+    {
+        const Level level = levelOf(node);
+        const Level right = levelOf(node.getRight());
+        return level == ImageExpressionSyntax::Power ? right < level : right <= level;
+    }
+    // The infix operator that is the left operand of `node`, written without
+    // parentheses; null where there is none.
+    static const BinaryExpression* infixBelow(const BinaryExpression& node)
+    {
+        const auto* left = dynamic_cast<const BinaryExpression*>(&node.getLeft());
+        if (!left || levelOf(*left) == ImageExpressionSyntax::Primary || leftParenthesised(node))
+            return nullptr;
+        return left;
     }
 
     // A negative number reads back as a negation, which binds as a primary does.

@@ -22,6 +22,13 @@ public:
             assert(child != 0 && "expression != 0");
     }
 
+    ~FixedArityExpression() override
+    {
+        Owned pending;
+        FixedArityExpression::releaseChildren(pending);
+        freeAll(pending);
+    }
+
     size_t getChildCount() const override { return Arity; }
     const ImageExpression& getChild(size_t index) const override
     {
@@ -33,6 +40,13 @@ protected:
     double evaluateChild(size_t index, const EvaluationContext& context) const
     {
         return children_[index]->evaluate(context);
+    }
+
+    void releaseChildren(Owned& pending) override
+    {
+        for (auto& child : children_)
+            if (child)
+                pending.push_back(std::move(child));
     }
 
 private:

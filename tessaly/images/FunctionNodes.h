@@ -20,7 +20,7 @@ class NullaryFunction : public NullaryExpression {
 public:
     static constexpr const char* ClassName = Op::Name;
     double evaluate(const EvaluationContext& context) const override { return Op::apply(context); }
-    bool isLineAndColumnNeeded() const override { return Op::NeedsCell; }
+    bool needsOwnCell() const override { return Op::NeedsCell; }
     const char* getName() const override { return Op::Name; }
 };
 
@@ -43,9 +43,18 @@ public:
     using BinaryExpression::BinaryExpression;
     double evaluate(const EvaluationContext& context) const override
     {
+        if (isLongChain())
+            return evaluateChain(context);
         return Op::apply(evaluateChild(0, context), evaluateChild(1, context));
     }
+    bool isChainLink() const override { return true; }
     const char* getName() const override { return Op::Name; }
+
+protected:
+    double combine(double left, const EvaluationContext& context) const override
+    {
+        return Op::apply(left, evaluateChild(1, context));
+    }
 };
 
 namespace Ops {
@@ -186,10 +195,18 @@ public:
     using BinaryExpression::BinaryExpression;
     double evaluate(const EvaluationContext& context) const override
     {
-        const double guarded = evaluateChild(0, context);
+        if (isLongChain())
+            return evaluateChain(context);
+        return combine(evaluateChild(0, context), context);
+    }
+    bool isChainLink() const override { return true; }
+    const char* getName() const override { return "Catch"; }
+
+protected:
+    double combine(double guarded, const EvaluationContext& context) const override
+    {
         return std::isnan(guarded) ? evaluateChild(1, context) : guarded;
     }
-    const char* getName() const override { return "Catch"; }
 };
 
 } // namespace _ImageExpression

@@ -15,17 +15,9 @@ public:
     EntityKind getKind() const { return kind_; }
     int getIndex() const { return index_; }
 
-    void getImageDependencies(std::set<int>& indexes) const override
+    void addOwnIndexes(EntityKind kind, std::set<int>& indexes) const override
     {
-        addOwnIndex(kind_, index_, EntityKind::Image, indexes);
-    }
-    void getTableDependencies(std::set<int>& indexes) const override
-    {
-        addOwnIndex(kind_, index_, EntityKind::Table, indexes);
-    }
-    void getValueDependencies(std::set<int>& indexes) const override
-    {
-        addOwnIndex(kind_, index_, EntityKind::Value, indexes);
+        addOwnIndex(kind_, index_, kind, indexes);
     }
     void acceptVisit(ImageExpressionVisitor& visitor) const override { visitor.visit(*this); }
 

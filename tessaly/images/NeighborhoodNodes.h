@@ -69,10 +69,10 @@ public:
     }
     int getTable() const { return table_; }
     double evaluate(const EvaluationContext& context) const override;
-    void getTableDependencies(std::set<int>& indexes) const override
+    void addOwnIndexes(EntityKind kind, std::set<int>& indexes) const override
     {
-        indexes.insert(table_);
-        NeighborhoodQuaternaryExpression::getTableDependencies(indexes);
+        addOwnIndex(EntityKind::Table, table_, kind, indexes);
+        NeighborhoodQuaternaryExpression::addOwnIndexes(kind, indexes);
     }
     const char* getName() const override { return "NeighborhoodConvolution"; }
 

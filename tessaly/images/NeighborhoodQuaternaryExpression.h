@@ -20,12 +20,11 @@ public:
     }
     int getImage() const { return image_; }
 
-    void getImageDependencies(std::set<int>& indexes) const override
+    void addOwnIndexes(EntityKind kind, std::set<int>& indexes) const override
     {
-        indexes.insert(image_);
-        FixedArityExpression<4>::getImageDependencies(indexes);
+        addOwnIndex(EntityKind::Image, image_, kind, indexes);
     }
-    bool isLineAndColumnNeeded() const override { return true; }
+    bool needsOwnCell() const override { return true; }
     void acceptVisit(ImageExpressionVisitor& visitor) const override { visitor.visit(*this); }
 
 protected:

@@ -14,10 +14,9 @@ public:
     int getTable() const { return table_; }
     const ImageExpression& getKey() const { return getOperand(); }
 
-    void getTableDependencies(std::set<int>& indexes) const override
+    void addOwnIndexes(EntityKind kind, std::set<int>& indexes) const override
     {
-        indexes.insert(table_);
-        UnaryExpression::getTableDependencies(indexes);
+        addOwnIndex(EntityKind::Table, table_, kind, indexes);
     }
     void acceptVisit(ImageExpressionVisitor& visitor) const override { visitor.visit(*this); }
 

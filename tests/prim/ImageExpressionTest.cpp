@@ -28,7 +28,7 @@ public:
 class CountingValue : public Tessaly::_ImageExpression::Value {
 public:
     CountingValue() : Value(1) {}
-    bool isLineAndColumnNeeded() const override
+    bool needsOwnCell() const override
     {
         ++asked;
         return false;

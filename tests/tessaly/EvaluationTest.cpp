@@ -160,6 +160,40 @@ TEST(EvaluationTest, CompileGathersWhatTheFormulaUses)
     EXPECT_FALSE(scalar->isLineAndColumnNeeded());
 }
 
+// A chain of terms goes one node deeper per term; at 200,000 terms a recursive walk,
+// evaluation or free overflows the stack. Chains long and short, of operators that do
+// not commute, give the value of the arithmetic, however many links are evaluated in a
+// loop or by recursion; the writer writes them back as read, and they are freed.
+TEST(EvaluationTest, ChainsOfAnyLengthAreEvaluatedWrittenAndFreed)
+{
+    for (int terms : {2, 47, 48, 49, 50, 51, 200000}) {
+        // v1 - 2 + 3 * 4 - 5 + ...: the sum of products, worked out as it is written.
+        std::string text = "v1";
+        double sum = 0, product = 7;
+        for (int i = 1; i < terms; ++i) {
+            const int term = i % 5 + 1;
+            text += (i % 3 == 0 ? " * " : i % 3 == 1 ? " - " : " + ") + std::to_string(term);
+            if (i % 3 == 0) {
+                product *= term;
+                continue;
+            }
+            sum += product;
+            product = i % 3 == 1 ? -term : term;
+        }
+        const double expected = sum + product;
+        const auto formula = readFormula(text);
+        formula->compile();
+        EXPECT_EQ(formula->getDependencies(EntityKind::Value), (std::set<int>{1}));
+        EXPECT_DOUBLE_EQ(evaluate(text), expected) << terms << " terms";
+        EXPECT_EQ(formula->toString(), text) << terms << " terms";
+    }
+    std::string catches;
+    for (int i = 0; i < 200000; ++i)
+        catches += "i2 ? ";
+    EXPECT_EQ(evaluate(catches + "v2"), -7);
+    EXPECT_EQ(evaluate(catches + "i1 ? abort"), 6) << "a fallback was evaluated where not needed";
+}
+
 TEST(EvaluationTest, LookupTableIteratesInKeyOrder)
 {
     LookupTable table({{3, 30}, {-1, 5}});
