@@ -61,14 +61,22 @@ for signal in TERM INT; do
     no_temporaries "SIG$signal"
 done
 
+# SIGTERM once the run has begun, as the banner of the Repeat around the loop tells, so
+# that it never meets a vrk still starting.
 cat > forever.vrk <<'SCRIPT'
-forever := While initialCondition = .yes condition = again.condition {
-    again := SetWhileCondition condition = .yes;
+once := Repeat iterations = 1 {
+    forever := While initialCondition = .yes condition = again.condition {
+        again := SetWhileCondition condition = .yes;
+    }
 }
 SCRIPT
-"$vrk" run forever.vrk --log-level .result &
+"$vrk" run forever.vrk --log-level .info > forever.log &
 pid=$!
-sleep 0.5
+for _ in $(seq 1 600); do
+    grep -q "Running step 1 of 1" forever.log && break
+    sleep 0.1
+done
+grep -q "Running step 1 of 1" forever.log || fail "the run never began: $(cat forever.log)"
 kill -TERM "$pid"
 wait "$pid"
 status=$?

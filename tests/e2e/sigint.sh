@@ -1,21 +1,30 @@
 #!/usr/bin/env bash
 # Ctrl-C during a run: a While whose condition never turns false is interrupted with
 # SIGINT; vrk must notice it at the next pass and exit with status 130 within two
-# seconds, under each scheduler.
+# seconds, under each scheduler. The signal is sent once the banner of the Repeat around
+# the loop shows that the run has begun, so that it never meets a vrk still starting.
 set -u
 vrk="$1"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cat > "$work/forever.vrk" <<'SCRIPT'
-forever := While initialCondition = .yes condition = again.condition {
-    again := SetWhileCondition condition = .yes;
+once := Repeat iterations = 1 {
+    forever := While initialCondition = .yes condition = again.condition {
+        again := SetWhileCondition condition = .yes;
+    }
 }
 SCRIPT
 failed=0
 for scheduler in sequential parallel auto; do
-    "$vrk" run "$work/forever.vrk" --scheduler "$scheduler" --log-level .result &
+    rm -f "$work/out.log"
+    "$vrk" run "$work/forever.vrk" --scheduler "$scheduler" --log-level .info > "$work/out.log" &
     pid=$!
-    sleep 0.5
+    tries=0
+    while ! grep -q "Running step 1 of 1" "$work/out.log" && kill -0 "$pid" 2>/dev/null &&
+        [ "$tries" -lt 600 ]; do
+        sleep 0.1
+        tries=$((tries + 1))
+    done
     if ! kill -0 "$pid" 2>/dev/null; then
         echo "FAIL $scheduler: the run ended before it was interrupted"
         failed=1
