@@ -21,7 +21,40 @@ namespace VRK {
 
 namespace {
 constexpr auto pollInterval = std::chrono::milliseconds(10);
-constexpr unsigned int killGraceMilliseconds = 2000;
+// Short enough that a cancelled run, which hears the cancellation within a wait slice of
+// a second, still ends within about a second when the program ignores SIGTERM.
+constexpr unsigned int killGraceMilliseconds = 200;
+
+// A group of its own, so that the program's own children are ended with it, and
+// Ctrl-C at a terminal reaches this host alone, which then ends the group.
+int spawnInOwnGroup(pid_t& pid, const std::string& executable, char* const argv[])
+{
+    posix_spawnattr_t attributes;
+    int error = ::posix_spawnattr_init(&attributes);
+    if (error != 0)
+        return error;
+    error = ::posix_spawnattr_setpgroup(&attributes, 0);
+    if (error == 0)
+        error = ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    if (error == 0)
+        error = ::posix_spawnp(&pid, executable.c_str(), nullptr, &attributes, argv, environ);
+    ::posix_spawnattr_destroy(&attributes);
+    return error;
+}
+
+// Asks `ended` every poll interval until it is true or `milliseconds` have passed;
+// whether it became true.
+template <class Predicate>
+bool pollFor(unsigned int milliseconds, Predicate ended)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+    while (!ended()) {
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
+        std::this_thread::sleep_for(pollInterval);
+    }
+    return true;
+}
 } // namespace
 
 SystemProcess::SystemProcess(const std::string& executable, const std::string& parameters)
@@ -32,7 +65,7 @@ SystemProcess::SystemProcess(const std::string& executable, const std::string& p
     for (auto& argument : arguments)
         argv.push_back(argument.data());
     argv.push_back(nullptr);
-    const int error = ::posix_spawnp(&pid_, executable.c_str(), nullptr, nullptr, argv.data(), environ);
+    const int error = spawnInOwnGroup(pid_, executable, argv.data());
     if (error != 0)
         ExceptionUtils::raise<RuntimeException>("The process \"" + executable
                                                 + "\" could not be started: " + std::strerror(error)
@@ -65,24 +98,32 @@ SystemProcess::ProcessStatus SystemProcess::getStatus() { return reap(false) ? f
 
 bool SystemProcess::wait(unsigned int milliseconds)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    while (!reap(false)) {
-        if (std::chrono::steady_clock::now() >= deadline)
-            return true;
-        std::this_thread::sleep_for(pollInterval);
-    }
-    return false;
+    return !pollFor(milliseconds, [this] { return reap(false); });
+}
+
+bool SystemProcess::endsWithin(unsigned int milliseconds) const
+{
+    return pollFor(milliseconds, [this] {
+        siginfo_t info{};
+        int result;
+        do
+            result = ::waitid(P_PID, id_t(pid_), &info, WEXITED | WNOHANG | WNOWAIT);
+        while (result < 0 && errno == EINTR);
+        return result < 0 || info.si_pid == pid_;
+    });
 }
 
 void SystemProcess::kill()
 {
     if (reap(false))
         return;
-    ::kill(pid_, SIGTERM);
-    if (wait(killGraceMilliseconds)) {
-        ::kill(pid_, SIGKILL);
-        reap(true);
-    }
+    // The process is left unreaped until its group has had SIGKILL: until then its id,
+    // which is its group's, cannot be given to another process.
+    ::kill(-pid_, SIGTERM);
+    endsWithin(killGraceMilliseconds);
+    // Members that ignore SIGTERM, the leader among them, or that outlived it.
+    ::kill(-pid_, SIGKILL);
+    reap(true);
 }
 
 void SystemProcess::detach(Cancellable* owner)

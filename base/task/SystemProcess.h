@@ -9,8 +9,9 @@
 
 namespace VRK {
 
-// An external process, started without a shell on construction. A process that is
-// still running when its object goes is killed, unless it was detached.
+// An external process, started without a shell on construction, as the leader of a
+// process group of its own. A process that is still running when its object goes is
+// killed, unless it was detached.
 class SystemProcess {
 public:
     enum ProcessStatus { running = 0, finished = 1 };
@@ -26,7 +27,8 @@ public:
     ProcessStatus getStatus();
     // Waits at most `milliseconds`; true when the process is still running then.
     bool wait(unsigned int milliseconds);
-    // SIGTERM, then SIGKILL when the process has not ended after a grace period.
+    // SIGTERM to the process's group, then SIGKILL to what is left of the group after a
+    // short grace period.
     void kill();
     // Hands the process over to `owner` (a task's worker), which reaps it and kills it
     // when it is cancelled.
@@ -37,6 +39,8 @@ public:
 
 private:
     bool reap(bool block);
+    // Whether the process ends within `milliseconds`; it is left unreaped.
+    bool endsWithin(unsigned int milliseconds) const;
 
     pid_t pid_ = -1;
     bool ended_ = false;

@@ -18,8 +18,9 @@ void TaskWorker::cancel()
 {
     cancelled_ = true;
     std::lock_guard<std::mutex> lock(mutex_);
+    // Each adopted process leads a group of its own, which holds its children too.
     for (pid_t process : processes_) {
-        ::kill(process, SIGKILL);
+        ::kill(-process, SIGKILL);
         ::waitpid(process, nullptr, 0);
     }
     processes_.clear();

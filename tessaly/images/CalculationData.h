@@ -1,6 +1,7 @@
 #ifndef VRK_TESSALY_IMAGES_CALCULATIONDATA_H
 #define VRK_TESSALY_IMAGES_CALCULATIONDATA_H
 
+#include <functional>
 #include <vector>
 
 namespace Tessaly {
@@ -18,6 +19,9 @@ struct CalculationData {
     std::vector<double> values;
     std::vector<const LookupTable*> tables;
     std::vector<double> scalars;
+    // The caller's checkpoint, for work within a block that is long enough to need it;
+    // null when there is none.
+    const std::function<void()>* checkpoint = nullptr;
 };
 
 } // namespace Tessaly

@@ -7,6 +7,7 @@
 
 namespace Tessaly {
 
+class WorkMeter;
 class Image;
 class LookupTable;
 
@@ -20,6 +21,7 @@ struct EvaluationContext {
     const std::vector<const Image*>& images;
     double line;   // 0 where there is no image
     double column; // 0 where there is no image
+    WorkMeter* meter = nullptr; // counts long work within the cell, where it is heard
 
     double getImageValue(int index) const { return at(imageValues, index); }
     double getValue(int index) const { return at(values, index); }

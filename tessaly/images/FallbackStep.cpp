@@ -2,6 +2,7 @@
 
 #include "tessaly/images/EvaluationContext.h"
 #include "tessaly/images/ImageExpression.h"
+#include "tessaly/images/WorkMeter.h"
 
 #include <limits>
 
@@ -10,8 +11,10 @@ namespace Tessaly {
 void FallbackStep::run(BlockFrame& frame) const
 {
     std::vector<double> cellValues(size_t(imageCount_), std::numeric_limits<double>::quiet_NaN());
+    WorkMeter meter(frame.data.checkpoint);
     EvaluationContext context{cellValues,        frame.data.values,  frame.data.tables,
-                              frame.data.images, double(frame.line), 0};
+                              frame.data.images, double(frame.line), 0,
+                              &meter};
     double* out = frame.registerAt(result_);
     for (int i = 0; i < frame.count; ++i) {
         for (const auto& loaded : loadedImages_)

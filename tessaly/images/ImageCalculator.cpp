@@ -147,7 +147,8 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
 {
     program_->checkInputs(inputs);
     const Raster& first = *inputs.images[0];
-    CalculationData data{inputs.images, {}, inputs.values, inputs.tables, {}};
+    CalculationData data{inputs.images, {}, inputs.values, inputs.tables, {},
+                         checkpoint ? &checkpoint : nullptr};
     data.images.assign(inputs.images.begin(), inputs.images.end());
     const int imageCount = program_->formula.getDictionary().getCount(EntityKind::Image);
     data.scalars = program_->blocks->computeScalars(data, imageCount);

@@ -2,6 +2,7 @@
 
 #include "tessaly/images/EvaluationContext.h"
 #include "tessaly/images/Image.h"
+#include "tessaly/images/WorkMeter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,12 +28,15 @@ NeighborhoodQuaternaryExpression::collectWindow(const EvaluationContext& context
     const double lastLine = std::min(top + window[0], double(image.getLineCount())) - 1;
     const double firstColumn = std::max(left, 0.0);
     const double lastColumn = std::min(left + window[1], double(image.getColumnCount())) - 1;
-    for (double l = firstLine; l <= lastLine; ++l)
+    for (double l = firstLine; l <= lastLine; ++l) {
+        if (context.meter)
+            context.meter->add(lastColumn - firstColumn + 1);
         for (double c = firstColumn; c <= lastColumn; ++c) {
             const double value = image.getValue(int(l), int(c));
             if (!std::isnan(value))
                 cells.push_back({(l - top) * window[1] + (c - left), value});
         }
+    }
     return cells;
 }
 

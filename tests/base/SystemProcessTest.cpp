@@ -5,7 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdio>
+#include <fstream>
 #include <signal.h>
+#include <stdlib.h>
+#include <thread>
+#include <unistd.h>
 
 using VRK::ArgumentSplitter;
 using Words = std::vector<std::string>;
@@ -52,4 +58,60 @@ TEST(SystemProcess, DetachedProcessOutlivesItsObjectUntilTheRunIsCancelled)
     task->cancel();
     task.reset();
     EXPECT_NE(::kill(pid, 0), 0) << "cancelling the run kills what it left running";
+}
+
+namespace {
+
+// Running and not a zombie: a process whose parent died may stay a zombie where the
+// first process of a container does not reap.
+bool isRunning(pid_t pid)
+{
+    std::ifstream stat("/proc/" + std::to_string(pid) + "/stat");
+    std::string line;
+    if (!std::getline(stat, line))
+        return false;
+    const size_t state = line.rfind(')') + 2;
+    return state < line.size() && line[state] != 'Z';
+}
+
+bool endsSoon(pid_t pid)
+{
+    for (int tries = 0; tries < 100 && isRunning(pid); ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    return !isRunning(pid);
+}
+
+pid_t pidFrom(const std::string& file)
+{
+    for (int tries = 0; tries < 250; ++tries) {
+        std::ifstream in(file);
+        pid_t pid = 0;
+        if (in >> pid && pid > 0)
+            return pid;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return -1;
+}
+
+} // namespace
+
+TEST(SystemProcess, KillEndsTheWholeGroupEvenWhereSigtermIsIgnored)
+{
+    char folder[] = "/tmp/vrk-group-XXXXXX";
+    ASSERT_NE(::mkdtemp(folder), nullptr);
+    const std::string childFile = std::string(folder) + "/child";
+    // The shell and its child both ignore SIGTERM; the child is no longer waited for
+    // once the shell is killed.
+    VRK::SystemProcess program("sh", "-c \"trap '' TERM; sleep 30 & echo $! > " + childFile
+                                         + "; wait\"");
+    const pid_t child = pidFrom(childFile);
+    ASSERT_GT(child, 0) << "the program never noted its child";
+    EXPECT_EQ(::getpgid(child), program.getPid()) << "the program leads its own group";
+    program.kill();
+    EXPECT_EQ(program.getStatus(), VRK::SystemProcess::finished);
+    EXPECT_TRUE(endsSoon(child)) << "the program's child outlived it";
+    if (isRunning(child))
+        ::kill(child, SIGKILL);
+    std::remove(childFile.c_str());
+    ::rmdir(folder);
 }

@@ -217,6 +217,9 @@ SCRIPT
     done
 }
 cancelled_calculation cancel "nbsum(#image, 9 + 0 * #image, 9, 4, 4)"
+# A window over the whole map makes each cell read four million cells: the calculation
+# hears Ctrl-C while it reads them, not only between blocks of 256 such cells.
+cancelled_calculation "cancel a large window" "nbmedian(#image, 4095, 4095, 2047, 2047)"
 
 # The example: its shipped grids are those its script makes, and every year of the town
 # is the reference's, under both schedulers.
