@@ -90,6 +90,8 @@ bool SystemProcess::reap(bool block)
     if (result == pid_ || result < 0) {
         ended_ = true;
         exitCode_ = result == pid_ && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        if (result == pid_)
+            status_ = status;
     }
     return ended_;
 }
@@ -117,6 +119,7 @@ void SystemProcess::kill()
 {
     if (reap(false))
         return;
+    killed_ = true;
     // The process is left unreaped until its group has had SIGKILL: until then its id,
     // which is its group's, cannot be given to another process.
     ::kill(-pid_, SIGTERM);
@@ -124,6 +127,18 @@ void SystemProcess::kill()
     // Members that ignore SIGTERM, the leader among them, or that outlived it.
     ::kill(-pid_, SIGKILL);
     reap(true);
+}
+
+std::string SystemProcess::describeFailure() const
+{
+    if (!ended_ || killed_)
+        return {};
+    if (WIFEXITED(status_) && WEXITSTATUS(status_) != 0)
+        return "exited with status " + std::to_string(WEXITSTATUS(status_));
+    if (WIFSIGNALED(status_))
+        return "was ended by signal " + std::to_string(WTERMSIG(status_)) + " ("
+               + ::strsignal(WTERMSIG(status_)) + ")";
+    return {};
 }
 
 void SystemProcess::detach(Cancellable* owner)

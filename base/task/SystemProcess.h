@@ -35,6 +35,10 @@ public:
     void detach(Cancellable* owner);
 
     int getExitCode() const { return exitCode_; }
+    // How the process ended, for a report: "exited with status 3" or "was ended by
+    // signal 9 (Killed)". Empty while it runs, when it exited with status 0, and when
+    // kill() ended it.
+    std::string describeFailure() const;
     pid_t getPid() const { return pid_; }
 
 private:
@@ -45,7 +49,9 @@ private:
     pid_t pid_ = -1;
     bool ended_ = false;
     bool detached_ = false;
+    bool killed_ = false;
     int exitCode_ = -1;
+    int status_ = 0; // as waitpid reported it
 };
 
 } // namespace VRK

@@ -1,5 +1,7 @@
 #include "plugins/prim/RunExternalProcessFunctor.h"
 
+#include "base/graph/FunctorNameUtils.h"
+#include "base/log/Logger.h"
 #include "base/task/SystemProcess.h"
 #include "base/task/Task.h"
 #include "plugins/prim/BoolEditor.h"
@@ -59,8 +61,10 @@ void RunExternalProcess::runImpl()
     const bool wait = getInputPortValue<BoolData>("waitProcessCompletion");
     const int seconds = getInputPortValue<IntData>("secondsToWait");
     VRK::SystemProcess process(fileName, parameters);
-    if (process.getStatus() == VRK::SystemProcess::finished)
+    if (process.getStatus() == VRK::SystemProcess::finished) {
+        reportFailure(process, fileName);
         return;
+    }
     VRK::Task* functorTask = VRK::Task::getCurrentTask();
     assert(functorTask != 0 && "functorTask != 0");
     VRK::TaskWorker* worker = functorTask->getWorker();
@@ -71,8 +75,23 @@ void RunExternalProcess::runImpl()
         waitForCompletion(process, *functorTask);
     else if (seconds > 0)
         waitSeconds(process, seconds, *functorTask);
+    reportFailure(process, fileName);
     // A negative time waits for nothing: the process ends with its object, as every
     // process that was not handed over does.
+}
+
+// A failing program tells so by its status alone, which no port carries: the modeller
+// hears of it in the log, and the run goes on, as it would after any program.
+void RunExternalProcess::reportFailure(const VRK::SystemProcess& process,
+                                       const std::string& fileName) const
+{
+    const std::string failure = process.describeFailure();
+    VRK::Logger* logger = VRK::Logger::getCurrentThreadLogger();
+    if (failure.empty() || !logger->isLogging(VRK::warning))
+        return;
+    logger->log(VRK::warning, "The program " + VRK::FunctorNameUtils::quote(fileName) + " run by "
+                                  + VRK::FunctorNameUtils::describeAt(*this) + " " + failure
+                                  + ".");
 }
 
 void RunExternalProcess::waitForCompletion(VRK::SystemProcess& process, const VRK::Task& task)

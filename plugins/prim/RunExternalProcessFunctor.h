@@ -27,6 +27,8 @@ private:
     static void waitForCompletion(VRK::SystemProcess& process, const VRK::Task& task);
     // Then hands a process still running over to the run.
     static void waitSeconds(VRK::SystemProcess& process, int seconds, VRK::Task& task);
+    // A warning when the process has ended with a status other than 0 or by a signal.
+    void reportFailure(const VRK::SystemProcess& process, const std::string& fileName) const;
 };
 
 } // namespace Prim

@@ -115,3 +115,23 @@ TEST(SystemProcess, KillEndsTheWholeGroupEvenWhereSigtermIsIgnored)
     std::remove(childFile.c_str());
     ::rmdir(folder);
 }
+
+TEST(SystemProcess, DescribesAnEndOtherThanSuccess)
+{
+    VRK::SystemProcess failing("sh", "-c 'exit 3'");
+    EXPECT_FALSE(failing.wait(5000));
+    EXPECT_EQ(failing.describeFailure(), "exited with status 3");
+
+    VRK::SystemProcess signalled("sh", "-c 'kill -KILL $$'");
+    EXPECT_FALSE(signalled.wait(5000));
+    EXPECT_EQ(signalled.describeFailure(), "was ended by signal 9 (Killed)");
+
+    VRK::SystemProcess succeeding("true", "");
+    EXPECT_FALSE(succeeding.wait(5000));
+    EXPECT_EQ(succeeding.describeFailure(), "");
+
+    VRK::SystemProcess killed("sleep", "30");
+    EXPECT_EQ(killed.describeFailure(), "") << "a running process has not failed";
+    killed.kill();
+    EXPECT_EQ(killed.describeFailure(), "") << "an end asked for is no failure";
+}

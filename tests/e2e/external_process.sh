@@ -178,6 +178,35 @@ status=$?
 [ "$status" -eq 1 ] || fail "missing program: exit status $status"
 grep -q 'The process "no-such-program-anywhere" could not be started' missing.err \
     || fail "missing program: $(cat missing.err)"
+# So does a file that is there but cannot be run.
+touch not-a-program
+echo 'RunExternalProcess fileName = "./not-a-program" parameters = "";' > unrunnable.vrk
+"$vrk" run unrunnable.vrk --log-level .result 2>unrunnable.err
+status=$?
+[ "$status" -eq 1 ] || fail "unrunnable file: exit status $status"
+grep -q 'The process "./not-a-program" could not be started: Permission denied.' unrunnable.err \
+    || fail "unrunnable file: $(cat unrunnable.err)"
+
+# 7. A program that exits with a status other than 0, or dies of a signal, is reported
+# as a warning that names it, whether it was waited for to its end or for some seconds;
+# the run goes on, and what is printed is the same under every scheduler.
+cat > failing.vrk <<'SCRIPT'
+first := RunExternalProcess fileName = "sh" parameters = "-c 'sleep 0.2; exit 3'";
+second := RunExternalProcess fileName = "sh" parameters = "-c 'sleep 0.2; kill -TERM $$'" secondsToWait = 5;
+third := RunExternalProcess fileName = "false" parameters = "";
+fourth := RunExternalProcess fileName = "true" parameters = "";
+PrintString string = "the run went on";
+SCRIPT
+expected='The program "sh" run by "first" (RunExternalProcess) at failing.vrk:1:1 exited with status 3.
+The program "sh" run by "second" (RunExternalProcess) at failing.vrk:2:1 was ended by signal 15 (Terminated).
+The program "false" run by "third" (RunExternalProcess) at failing.vrk:3:1 exited with status 1.
+the run went on'
+for scheduler in sequential parallel auto; do
+    out=$("$vrk" run failing.vrk --log-level .result --scheduler "$scheduler")
+    status=$?
+    [ "$status" -eq 0 ] || fail "failing program ($scheduler): exit status $status"
+    [ "$out" = "$expected" ] || fail "failing program ($scheduler): printed '$out'"
+done
 
 [ "$failed" -eq 0 ] && echo "external processes waited for, left running, cancelled and kept from any shell"
 [ "$failed" -eq 0 ]
