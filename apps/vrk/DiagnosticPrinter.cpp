@@ -1,7 +1,9 @@
 #include "apps/vrk/DiagnosticPrinter.h"
 
 #include "base/error/Exception.h"
+#include "base/util/PrintableText.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -28,26 +30,24 @@ void DiagnosticPrinter::print(const std::string& message, const VRK::ScriptPosit
         if (position.column > 0)
             out_ << ':' << position.column;
     }
-    out_ << ": error: " << message << '\n';
+    out_ << ": error: " << VRK::PrintableText::escape(message) << '\n';
     if (position.isKnown() && !position.file.empty())
         quote(position);
     out_.flush();
 }
 
-// The caret line repeats the tabs of the source line, so the caret stands under the
-// column whatever the terminal's tab width.
+// A line of any length is quoted as a window around the column, so that a script of
+// one long line does not flood the terminal.
 void DiagnosticPrinter::quote(const VRK::ScriptPosition& position)
 {
     const std::string line = sourceOf(position.file).getLine(static_cast<size_t>(position.line));
     if (line.empty())
         return;
-    out_ << line << '\n';
-    if (position.column < 1)
-        return;
-    std::string caret;
-    for (size_t i = 0; i + 1 < static_cast<size_t>(position.column); ++i)
-        caret += i < line.size() && line[i] == '\t' ? '\t' : ' ';
-    out_ << caret << "^\n";
+    const size_t column = static_cast<size_t>(std::max(position.column, 0));
+    const VRK::PrintableText::Excerpt excerpt = VRK::PrintableText::around(line, column);
+    out_ << excerpt.text << '\n';
+    if (column > 0)
+        out_ << excerpt.caretIndent << "^\n";
 }
 
 const VRK::LineBuffer& DiagnosticPrinter::sourceOf(const std::string& filename)

@@ -14,7 +14,9 @@ class Exception;
 
 // Prints errors as the command line reports them: "FILE:LINE:COLUMN: error: MESSAGE",
 // then the line of the file and a caret under the column. An error without a position
-// is reported against the file it concerns, or the program when there is none.
+// is reported against the file it concerns, or the program when there is none. What
+// comes from the user's files is shown printable (see PrintableText), and a long line
+// only around the column.
 class DiagnosticPrinter {
 public:
     explicit DiagnosticPrinter(std::ostream& out);

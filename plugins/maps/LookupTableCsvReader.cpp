@@ -3,6 +3,7 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"
 #include "base/error/UnableToAccessFileException.h"
+#include "base/util/PrintableText.h"
 
 #include <boost/algorithm/string/trim.hpp>
 
@@ -15,6 +16,12 @@
 namespace Maps {
 
 namespace {
+
+// A field or line as a message quotes it: the file may hold anything, of any length.
+std::string quoted(const std::string& text)
+{
+    return "\"" + VRK::PrintableText::cut(boost::algorithm::trim_copy(text)) + "\"";
+}
 
 std::optional<double> numberOf(std::string text)
 {
@@ -48,20 +55,19 @@ public:
         const std::optional<double> valueNumber = numberOf(value);
         if (comma == std::string::npos || value.find(',') != std::string::npos)
             refuse(number,
-                   "The line \"" + line + "\" does not hold two fields separated by a comma.");
+                   "The line " + quoted(line) + " does not hold two fields separated by a comma.");
         const bool first = !seenLine_;
         seenLine_ = true;
         if (first && !keyNumber && !valueNumber)
             return false;
         if (!keyNumber || std::isnan(*keyNumber))
-            refuse(number, "The key \"" + boost::algorithm::trim_copy(key) + "\" is not a number.");
+            refuse(number, "The key " + quoted(key) + " is not a number.");
         if (!valueNumber)
             refuse(number,
-                   "The value \"" + boost::algorithm::trim_copy(value) + "\" is not a number.");
+                   "The value " + quoted(value) + " is not a number.");
         const auto added = lines_.emplace(*keyNumber, number);
         if (!added.second)
-            refuse(number, "The key \"" + boost::algorithm::trim_copy(key)
-                               + "\" is already given at line "
+            refuse(number, "The key " + quoted(key) + " is already given at line "
                                + std::to_string(added.first->second) + ".");
         entries_.emplace(*keyNumber, *valueNumber);
         return true;

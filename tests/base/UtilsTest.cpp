@@ -2,6 +2,7 @@
 #include "base/util/LineBuffer.h"
 #include "base/util/NameUtils.h"
 #include "base/util/PathUtils.h"
+#include "base/util/PrintableText.h"
 #include "base/util/Properties.h"
 #include "base/util/StringUtils.h"
 
@@ -90,6 +91,63 @@ TEST(LineBuffer, GivesLinesFromOneWithoutBreaks)
     EXPECT_EQ(buffer.getLineCount(), 4u);
     EXPECT_EQ(VRK::LineBuffer("end\n").getLineCount(), 2u);
     EXPECT_EQ(VRK::LineBuffer("").getLineCount(), 1u);
+}
+
+TEST(PrintableText, EscapesWhatATerminalWouldNotShow)
+{
+    using VRK::PrintableText;
+    EXPECT_EQ(PrintableText::escape("bell\x07 nul" + std::string(1, '\0') + "\r\n\x1b[31m\x7f"),
+              "bell\\x07 nul\\x00\\x0d\\x0a\\x1b[31m\\x7f");
+    // Well-formed UTF-8 and tabs show as they are; stray, cut or overlong sequences,
+    // surrogates and C1 controls do not.
+    EXPECT_EQ(PrintableText::escape("\tcaf\xc3\xa9 \xe2\x82\xac \xf0\x9f\x98\x80"),
+              "\tcaf\xc3\xa9 \xe2\x82\xac \xf0\x9f\x98\x80");
+    EXPECT_EQ(PrintableText::escape("\xc3 \xa9 \xe2\x82 \xc0\xaf \xed\xa0\x80 \xc2\x85 \xf4\x90\x80\x80"),
+              "\\xc3 \\xa9 \\xe2\\x82 \\xc0\\xaf \\xed\\xa0\\x80 \\xc2\\x85 \\xf4\\x90\\x80\\x80");
+    // Escaping twice changes nothing, so a message made printable may pass again.
+    const std::string once = PrintableText::escape("a\x01\\x01");
+    EXPECT_EQ(once, "a\\x01\\x01");
+    EXPECT_EQ(PrintableText::escape(once), once);
+
+    EXPECT_EQ(PrintableText::cut("short", 5), "short");
+    EXPECT_EQ(PrintableText::cut("longer", 5), "longe...");
+    EXPECT_EQ(PrintableText::cut("ab\x01z", 5), "ab...");
+    EXPECT_EQ(PrintableText::cut(std::string(1000000, 'x')).size(), 123u);
+}
+
+TEST(PrintableText, QuotesAWindowOfALineWithTheCaretUnderItsColumn)
+{
+    using VRK::PrintableText;
+    const auto whole = PrintableText::around("\tab\x02" "c\xc3\xa9" "d", 8, 20);
+    EXPECT_EQ(whole.text, "\tab\\x02c\xc3\xa9" "d");
+    // Tab, a, b, four for the escaped byte, c and one for the two bytes of e acute.
+    EXPECT_EQ(whole.caretIndent, "\t" + std::string(8, ' '));
+    EXPECT_EQ(PrintableText::around("abc", 0, 20).caretIndent, "");
+    EXPECT_EQ(PrintableText::around("abc", 4, 20).caretIndent, "   ");
+
+    std::string line(1000, 'x');
+    line[500] = 'M';
+    const auto middle = PrintableText::around(line, 501, 20);
+    EXPECT_EQ(middle.text, "..." + std::string(9, 'x') + "M" + std::string(10, 'x') + "...");
+    EXPECT_EQ(middle.text[middle.caretIndent.size()], 'M');
+    EXPECT_EQ(middle.caretIndent, std::string(12, ' '));
+
+    const auto start = PrintableText::around(line, 2, 20);
+    EXPECT_EQ(start.text, std::string(20, 'x') + "...");
+    EXPECT_EQ(start.caretIndent, " ");
+    const auto end = PrintableText::around(line, 1001, 20);
+    EXPECT_EQ(end.text, "..." + std::string(20, 'x'));
+    EXPECT_EQ(end.caretIndent, std::string(23, ' '));
+
+    // A line of random bytes is as short to quote as any other.
+    std::string noise(100000, '\0');
+    for (size_t i = 0; i < noise.size(); ++i)
+        noise[i] = static_cast<char>((i * 7919 + 13) % 256);
+    const auto noisy = PrintableText::around(noise, 50000, 120);
+    EXPECT_LE(noisy.text.size(), 4u * 120 + 6);
+    EXPECT_EQ(noisy.text, PrintableText::escape(noisy.text));
+    EXPECT_EQ(noisy.text.substr(0, 3), "...");
+    EXPECT_EQ(noisy.text.substr(noisy.text.size() - 3), "...");
 }
 
 TEST(Properties, KeepOrderAndHonourOverwrite)

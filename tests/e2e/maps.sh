@@ -288,6 +288,20 @@ SCRIPT
 printf 'key,value\n1,2\n2,two\n' > "$work/bad.csv"
 refused "bad table" "The run of \"t\" (LoadLookupTable) failed: $work/bad.csv:3: The value \"two\" is not a number." 1:1 1
 
+# A table of random bytes is refused in a short message that a terminal can show.
+fresh <<'SCRIPT'
+t := LoadLookupTable filename = "noise.csv";
+SCRIPT
+python3 -c 'import random, sys
+random.seed(7)
+sys.stdout.buffer.write(bytes(random.randrange(256) for _ in range(1000000)))' > "$work/noise.csv"
+refused "random bytes" "The run of \"t\" (LoadLookupTable) failed: $work/noise.csv:1: " 1:1 1
+[ "$(wc -c < "$work/err.log")" -lt 2000 ] || fail "random bytes: $(wc -c < "$work/err.log") bytes of error"
+python3 -c 'import sys
+text = open(sys.argv[1], "rb").read().decode("utf-8")
+sys.exit(any((ord(c) < 32 and c not in "\t\n") or 127 <= ord(c) < 160 for c in text))' "$work/err.log" ||
+    fail "random bytes: the error is not printable: $(od -c "$work/err.log" | head)"
+
 fresh <<'SCRIPT'
 t := LoadLookupTable filename = "table.csv";
 c := CalculateLookupTable expression = [ t1[line] + t2[line] ] {

@@ -61,6 +61,18 @@ TEST(LookupTableCsv, BadLinesAreLocated)
     EXPECT_EQ(refusal("nan,1\n"), "table.csv:1: The key \"nan\" is not a number.");
 }
 
+// A file may hold anything: what a message quotes of it is short and printable.
+TEST(LookupTableCsv, MessagesQuoteFieldsPrintableAndShort)
+{
+    EXPECT_EQ(refusal("key,value\n1,\x07\x1b[2J\n"),
+              "table.csv:2: The value \"\\x07\\x1b[2J\" is not a number.");
+    EXPECT_EQ(refusal(std::string(100000, '7') + "\n"),
+              "table.csv:1: The line \"" + std::string(120, '7')
+                  + "...\" does not hold two fields separated by a comma.");
+    EXPECT_EQ(refusal("1,2\n" + std::string(100000, 'k') + ",1\n"),
+              "table.csv:2: The key \"" + std::string(120, 'k') + "...\" is not a number.");
+}
+
 TEST(LookupTableCsv, WrittenTableReadsBackTheSame)
 {
     const Tessaly::LookupTable table(
