@@ -1,12 +1,14 @@
 #include "plugins/maps/GdalMapReader.h"
 
 #include "base/task/Task.h"
+#include "plugins/maps/AsciiGridCellChecker.h"
 #include "plugins/maps/GdalUtils.h"
 
 #include <cpl_error.h>
 #include <gdal_priv.h>
 
 #include <algorithm>
+#include <string>
 
 namespace Maps {
 
@@ -66,6 +68,14 @@ void readCells(GDALRasterBand& band, Tessaly::Raster& raster, GDALDataType buffe
     }
 }
 
+// The library reads the cells of this format with no complaint about what is not a
+// number, so they are checked beforehand.
+bool isAsciiGrid(GDALDataset& dataset)
+{
+    const GDALDriver* driver = dataset.GetDriver();
+    return driver && std::string(driver->GetDescription()) == "AAIGrid";
+}
+
 } // namespace
 
 std::shared_ptr<const Tessaly::Raster> GdalMapReader::read(const boost::filesystem::path& file)
@@ -78,6 +88,8 @@ std::shared_ptr<const Tessaly::Raster> GdalMapReader::read(const boost::filesyst
         GdalUtils::fail(file, "read as a map");
     if (dataset->GetRasterCount() < 1)
         GdalUtils::fail(file, "read as a map, since it holds no band of cells");
+    if (isAsciiGrid(*dataset))
+        AsciiGridCellChecker::check(file);
     GDALRasterBand& band = *dataset->GetRasterBand(1);
     const CellTypes types = cellTypesOf(band.GetRasterDataType(), file);
     auto raster = std::make_shared<Tessaly::Raster>(gridOf(*dataset), types.cellType);

@@ -4,14 +4,13 @@
 #include "base/error/IllegalDataException.h"
 #include "base/error/UnableToAccessFileException.h"
 #include "base/util/PrintableText.h"
+#include "base/util/RealText.h"
 
 #include <boost/algorithm/string/trim.hpp>
 
 #include <cmath>
-#include <cstdlib>
 #include <fstream>
 #include <map>
-#include <optional>
 
 namespace Maps {
 
@@ -21,18 +20,6 @@ namespace {
 std::string quoted(const std::string& text)
 {
     return "\"" + VRK::PrintableText::cut(boost::algorithm::trim_copy(text)) + "\"";
-}
-
-std::optional<double> numberOf(std::string text)
-{
-    boost::algorithm::trim(text);
-    if (text.empty())
-        return std::nullopt;
-    char* end = nullptr;
-    const double number = std::strtod(text.c_str(), &end);
-    if (*end != 0)
-        return std::nullopt;
-    return number;
 }
 
 class Lines {
@@ -45,31 +32,32 @@ public:
                                                               + ": " + problem);
     }
 
-    // False for a header: a first line of two words.
+    // False for a header: a first line of two fields that are no numbers.
     bool add(int number, const std::string& line)
     {
         const size_t comma = line.find(',');
-        const std::string key = line.substr(0, comma);
-        const std::string value = comma == std::string::npos ? "" : line.substr(comma + 1);
-        const std::optional<double> keyNumber = numberOf(key);
-        const std::optional<double> valueNumber = numberOf(value);
-        if (comma == std::string::npos || value.find(',') != std::string::npos)
+        if (comma == std::string::npos || line.find(',', comma + 1) != std::string::npos)
             refuse(number,
                    "The line " + quoted(line) + " does not hold two fields separated by a comma.");
+        const std::string key = boost::algorithm::trim_copy(line.substr(0, comma));
+        const std::string value = boost::algorithm::trim_copy(line.substr(comma + 1));
+        const VRK::RealText keyText(key);
+        const VRK::RealText valueText(value);
         const bool first = !seenLine_;
         seenLine_ = true;
-        if (first && !keyNumber && !valueNumber)
+        if (first && !keyText.beginsAsNumber() && !valueText.beginsAsNumber())
             return false;
-        if (!keyNumber || std::isnan(*keyNumber))
-            refuse(number, "The key " + quoted(key) + " is not a number.");
-        if (!valueNumber)
-            refuse(number,
-                   "The value " + quoted(value) + " is not a number.");
-        const auto added = lines_.emplace(*keyNumber, number);
+        if (!keyText.isNumber())
+            refuse(number, keyText.describeProblem("key"));
+        if (std::isnan(keyText.getValue()))
+            refuse(number, "The key " + quoted(key) + " is null, which no key may be.");
+        if (!valueText.isNumber())
+            refuse(number, valueText.describeProblem("value"));
+        const auto added = lines_.emplace(keyText.getValue(), number);
         if (!added.second)
             refuse(number, "The key " + quoted(key) + " is already given at line "
                                + std::to_string(added.first->second) + ".");
-        entries_.emplace(*keyNumber, *valueNumber);
+        entries_.emplace(keyText.getValue(), valueText.getValue());
         return true;
     }
 

@@ -12,8 +12,9 @@
 namespace Maps {
 
 // Reads a table from comma-separated text: one "key,value" pair of numbers a line, the
-// first line optionally a header of two words, blank lines skipped. A bad line fails
-// with a message that starts with "FILE:LINE: ".
+// first line optionally a header of two words, blank lines skipped. Numbers are read as
+// RealText reads them; a value may be "nan", for null, but a key may not. A bad line fails with a message
+// that starts with "FILE:LINE: ".
 class LookupTableCsvReader {
 public:
     static std::shared_ptr<const Tessaly::LookupTable> read(const boost::filesystem::path& file);

@@ -4,11 +4,13 @@
 #include "base/util/PathUtils.h"
 #include "base/util/PrintableText.h"
 #include "base/util/Properties.h"
+#include "base/util/RealText.h"
 #include "base/util/StringUtils.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
 
 namespace fs = boost::filesystem;
@@ -148,6 +150,43 @@ TEST(PrintableText, QuotesAWindowOfALineWithTheCaretUnderItsColumn)
     EXPECT_EQ(noisy.text, PrintableText::escape(noisy.text));
     EXPECT_EQ(noisy.text.substr(0, 3), "...");
     EXPECT_EQ(noisy.text.substr(noisy.text.size() - 3), "...");
+}
+
+TEST(RealText, ReadsWholeDecimalRealsAndTheWordsForInfinityAndNull)
+{
+    const std::pair<const char*, double> numbers[] = {
+        {"10", 10},     {"+5", 5},      {"-2.5", -2.5}, {".5", 0.5},  {"5.", 5},
+        {"-.25", -0.25}, {"1e3", 1000}, {"2E-2", 0.02}, {"-0", -0.0}, {"0.1", 0.1}};
+    for (const auto& number : numbers) {
+        const VRK::RealText text(number.first);
+        ASSERT_TRUE(text.isNumber()) << number.first;
+        EXPECT_EQ(text.getValue(), number.second) << number.first;
+        EXPECT_EQ(text.describeProblem("value"), "") << number.first;
+    }
+    EXPECT_TRUE(std::signbit(VRK::RealText("-0").getValue()));
+    EXPECT_EQ(VRK::RealText("-INF").getValue(), -HUGE_VAL);
+    EXPECT_EQ(VRK::RealText("inf").getValue(), HUGE_VAL);
+    EXPECT_TRUE(std::isnan(VRK::RealText("NaN").getValue()));
+
+    for (const char* word : {"", "abc", "-", ".", "e5", "1e", "10 junk", " 1", "1 ", "0x10",
+                             "infinity", "nan(1)", "+-1", "--1", "1,5", "1.2.3"}) {
+        const VRK::RealText text(word);
+        EXPECT_FALSE(text.isNumber()) << word;
+        EXPECT_EQ(text.describeProblem("value"), "The value \"" + std::string(word)
+                                                      + "\" is not a number.");
+    }
+    const VRK::RealText withNul(std::string("10\0", 3));
+    EXPECT_FALSE(withNul.isNumber());
+    EXPECT_EQ(withNul.describeProblem("cell"), "The cell \"10\\x00\" is not a number.");
+    EXPECT_EQ(VRK::RealText("1e400").describeProblem("key"),
+              "The key \"1e400\" is beyond the range of double precision reals.");
+    EXPECT_FALSE(VRK::RealText("-1e400").isNumber());
+
+    // A word is told from a number written wrong.
+    EXPECT_TRUE(VRK::RealText("0x10").beginsAsNumber());
+    EXPECT_TRUE(VRK::RealText("-.5e").beginsAsNumber());
+    EXPECT_FALSE(VRK::RealText("weight").beginsAsNumber());
+    EXPECT_FALSE(VRK::RealText("").beginsAsNumber());
 }
 
 TEST(Properties, KeepOrderAndHonourOverwrite)

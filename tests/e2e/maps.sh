@@ -283,6 +283,18 @@ echo "no grid here" > "$work/text.asc"
 refused "not a map" "The run of \"text\" (LoadMap) failed: The map file \"$work/text.asc\" can not be read as a map" 1:1 1
 
 fresh <<'SCRIPT'
+g := LoadMap filename = "junk.asc";
+SCRIPT
+printf 'ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2\n3 abc\n' > "$work/junk.asc"
+refused "cell not a number" "The run of \"g\" (LoadMap) failed: $work/junk.asc:7: The cell \"abc\" is not a number." 1:1 1
+
+fresh <<'SCRIPT'
+t := LoadLookupTable filename = "big.csv";
+SCRIPT
+printf 'key,value\n1,2\n2,1e400\n' > "$work/big.csv"
+refused "value beyond doubles" "The run of \"t\" (LoadLookupTable) failed: $work/big.csv:3: The value \"1e400\" is beyond the range of double precision reals." 1:1 1
+
+fresh <<'SCRIPT'
 t := LoadLookupTable filename = "bad.csv";
 SCRIPT
 printf 'key,value\n1,2\n2,two\n' > "$work/bad.csv"

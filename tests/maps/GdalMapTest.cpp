@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
 #include <set>
 
 namespace {
@@ -195,4 +196,34 @@ TEST_F(GdalMapTest, RefusalsNameTheFile)
         EXPECT_EQ(std::string(error.what()).substr(0, prefix.size()), prefix);
     }
     EXPECT_EQ(files(), (std::set<std::string>{"text.asc"}));
+}
+
+TEST_F(GdalMapTest, AsciiGridCellsThatAreNoNumbersAreRefusedAtTheirLine)
+{
+    const std::string header = "ncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n";
+    const auto refusal = [&](const std::string& text) {
+        std::ofstream(file("grid.asc").string(), std::ios::binary) << text;
+        try {
+            Maps::GdalMapReader::read(file("grid.asc"));
+        } catch (const VRK::Exception& error) {
+            return std::string(error.what());
+        }
+        return std::string("accepted");
+    };
+    const std::string at = file("grid.asc").string() + ":";
+    EXPECT_EQ(refusal(header + "1 2 3\n4 abc 6\n"), at + "7: The cell \"abc\" is not a number.");
+    EXPECT_EQ(refusal(header + "abc 2 3\n4 5 6\n"), at + "6: The cell \"abc\" is not a number.");
+    EXPECT_EQ(refusal(header + "1 2 0x10\n4 5 6\n"), at + "6: The cell \"0x10\" is not a number.");
+    EXPECT_EQ(refusal(header + "1 2 3\r\n4 5 1e400\r\n"),
+              at + "7: The cell \"1e400\" is beyond the range of double precision reals.");
+    EXPECT_EQ(refusal(header + "NODATA_value none\n1 2 3\n4 5 6\n"),
+              at + "6: The value of NODATA_value \"none\" is not a number.");
+    EXPECT_EQ(refusal("ncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize one\n1 2 3\n4 5 6\n"),
+              at + "5: The value of cellsize \"one\" is not a number.");
+
+    // Numbers in every form a grid may hold, NoData and a null written as "nan" read.
+    std::ofstream(file("good.asc").string())
+        << header << "NODATA_value -9999\n  1.5\t-2e1 +3\r\n-9999 .5 nan\n";
+    expectSameCells(valuesOf(*Maps::GdalMapReader::read(file("good.asc"))),
+                    {1.5, -20, 3, NAN, 0.5, NAN});
 }

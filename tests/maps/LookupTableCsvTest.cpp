@@ -58,7 +58,7 @@ TEST(LookupTableCsv, BadLinesAreLocated)
               "table.csv:3: The key \"1.0\" is already given at line 1.");
     // Only the first line may be a header.
     EXPECT_EQ(refusal("1,2\nkey,value\n"), "table.csv:2: The key \"key\" is not a number.");
-    EXPECT_EQ(refusal("nan,1\n"), "table.csv:1: The key \"nan\" is not a number.");
+    EXPECT_EQ(refusal("nan,1\n"), "table.csv:1: The key \"nan\" is null, which no key may be.");
 }
 
 // A file may hold anything: what a message quotes of it is short and printable.
@@ -71,6 +71,24 @@ TEST(LookupTableCsv, MessagesQuoteFieldsPrintableAndShort)
                   + "...\" does not hold two fields separated by a comma.");
     EXPECT_EQ(refusal("1,2\n" + std::string(100000, 'k') + ",1\n"),
               "table.csv:2: The key \"" + std::string(120, 'k') + "...\" is not a number.");
+}
+
+TEST(LookupTableCsv, NumbersAreReadWholeOrRefused)
+{
+    EXPECT_EQ(refusal("1,2\n2," + std::string("10\0", 3) + "\n"),
+              "table.csv:2: The value \"10\\x00\" is not a number.");
+    EXPECT_EQ(refusal("1,1e400\n"),
+              "table.csv:1: The value \"1e400\" is beyond the range of double precision reals.");
+    EXPECT_EQ(refusal("0x10,1\n"), "table.csv:1: The key \"0x10\" is not a number.");
+    EXPECT_EQ(refusal("1,10 junk\n"), "table.csv:1: The value \"10 junk\" is not a number.");
+    // A first line that begins as numbers do is data written wrong, not a header.
+    EXPECT_EQ(refusal("1e999,x\n"),
+              "table.csv:1: The key \"1e999\" is beyond the range of double precision reals.");
+
+    const auto infinite = readText("1,inf\n2,-INF\n3,+4\n");
+    EXPECT_EQ(infinite->getValue(1), HUGE_VAL);
+    EXPECT_EQ(infinite->getValue(2), -HUGE_VAL);
+    EXPECT_EQ(infinite->getValue(3), 4);
 }
 
 TEST(LookupTableCsv, WrittenTableReadsBackTheSame)
