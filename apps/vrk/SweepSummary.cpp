@@ -1,43 +1,44 @@
 #include "apps/vrk/SweepSummary.h"
 
+#include "apps/vrk/CsvFields.h"
+
+#include "base/error/ExceptionUtils.h"
+#include "base/parse/ParseError.h"
 #include "base/script/AtomicFileWriter.h"
+#include "base/util/RealText.h"
 
 #include <fstream>
 #include <iomanip>
-#include <sstream>
-
-namespace {
-
-// A CSV field, quoted when it holds a comma, a quote or a line break.
-std::string field(const std::string& text)
-{
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (char c : text)
-        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return quoted + "\"";
-}
-
-} // namespace
 
 SweepSummary::SweepSummary(std::string filename, std::vector<std::string> order)
     : filename_(std::move(filename)), order_(std::move(order))
 {
 }
 
-// Only the first two fields matter for resuming, so the error field is kept unread.
+// Runs that succeeded are not run again: their whole entry, duration and error line
+// included, is kept as it was written.
 void SweepSummary::load()
 {
-    std::ifstream in(filename_);
+    std::ifstream in(filename_, std::ios::binary);
     std::string line;
     std::getline(in, line);
-    while (std::getline(in, line)) {
-        std::istringstream fields(line);
-        std::string run;
-        Entry entry;
-        if (std::getline(fields, run, ',') && std::getline(fields, entry.status, ','))
-            entries_[run] = entry;
+    for (int number = 2; std::getline(in, line); ++number) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (line.empty())
+            continue;
+        const VRK::ScriptPosition where{filename_, number, 1};
+        const std::vector<CsvFields::Field> fields = CsvFields::split(line, where);
+        if (fields.size() != 4)
+            VRK::ExceptionUtils::raiseAt<VRK::ParseError>(
+                where, "The summary line has " + std::to_string(fields.size())
+                           + " fields where run, status, seconds and error are expected.");
+        const VRK::RealText seconds(fields[2].text);
+        if (!seconds.isNumber())
+            VRK::ExceptionUtils::raiseAt<VRK::ParseError>(
+                VRK::ScriptPosition{filename_, number, fields[2].column},
+                seconds.describeProblem("duration"));
+        entries_[fields[0].text] = Entry{fields[1].text, seconds.getValue(), fields[3].text};
     }
 }
 
@@ -62,8 +63,8 @@ void SweepSummary::write() const
             if (found == entries_.end())
                 continue;
             const Entry& entry = found->second;
-            out << field(run) << ',' << entry.status << ',' << std::fixed << std::setprecision(3)
-                << entry.seconds << ',' << field(entry.error) << '\n';
+            out << CsvFields::quote(run) << ',' << entry.status << ',' << std::fixed << std::setprecision(3)
+                << entry.seconds << ',' << CsvFields::quote(entry.error) << '\n';
         }
     });
 }

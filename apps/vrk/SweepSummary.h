@@ -19,7 +19,8 @@ public:
     // `order`: the run names, in the order the table gives them.
     SweepSummary(std::string filename, std::vector<std::string> order);
 
-    // Takes the entries of an earlier summary of the same file, if there is one.
+    // Takes the entries of an earlier summary of the same file, if there is one, whole.
+    // Throws a ParseError at a line that is not one of its entries.
     void load();
     // Whether the run has an entry whose status is 0.
     bool succeeded(const std::string& run) const;

@@ -1,8 +1,11 @@
 #include "apps/vrk/SweepTable.h"
 
+#include "apps/vrk/CsvFields.h"
+
 #include "base/error/ExceptionUtils.h"
 #include "base/error/FileNotFoundException.h"
 #include "base/parse/ParseError.h"
+#include "base/script/ScriptTextInput.h"
 
 #include <algorithm>
 #include <fstream>
@@ -13,23 +16,15 @@ namespace {
 
 const char* const RunColumn = "run";
 
+// Taken in as a script is, so that a table saved with a byte-order mark reads as one
+// saved without.
 std::string readText(const std::string& filename)
 {
     std::ifstream in(filename, std::ios::binary);
     if (!in)
         VRK::ExceptionUtils::raise<VRK::FileNotFoundException>("The table \"" + filename
                                                                + "\" cannot be opened.");
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-std::string trimmed(const std::string& text)
-{
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos
-               ? std::string()
-               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    return VRK::ScriptTextInput::readAll(in, "The table \"" + filename + "\"");
 }
 
 std::string counted(size_t count, const std::string& noun)
@@ -55,9 +50,9 @@ SweepTable SweepTable::read(const std::string& filename)
     for (int number = 1; std::getline(lines, line); ++number) {
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
-        if (trimmed(line).empty())
+        if (CsvFields::trim(line).empty())
             continue;
-        const auto fields = split(line, VRK::ScriptPosition{filename, number, 0});
+        const auto fields = CsvFields::split(line, VRK::ScriptPosition{filename, number, 0});
         if (table.names_.empty())
             table.readHeader(fields, number);
         else
@@ -68,39 +63,10 @@ SweepTable SweepTable::read(const std::string& filename)
     return table;
 }
 
-// Fields of one CSV line, each with the column where it starts.
-std::vector<SweepTable::Field> SweepTable::split(const std::string& line,
-                                                 const VRK::ScriptPosition& where)
-{
-    std::vector<Field> fields{{"", 1}};
-    bool quoted = false;
-    size_t quoteAt = 0;
-    for (size_t i = 0; i < line.size(); ++i) {
-        const char c = line[i];
-        if (quoted && c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
-            fields.back().text += '"';
-            ++i;
-        } else if (c == '"' && (quoted || trimmed(fields.back().text).empty())) {
-            quoted = !quoted;
-            quoteAt = i;
-            if (quoted)
-                fields.back().text.clear();
-        } else if (c == ',' && !quoted) {
-            fields.push_back({"", static_cast<int>(i) + 2});
-        } else {
-            fields.back().text += c;
-        }
-    }
-    if (quoted)
-        refuse(where.file, where.line, static_cast<int>(quoteAt) + 1,
-               "The quoted value is not closed on its line.");
-    return fields;
-}
-
-void SweepTable::readHeader(const std::vector<Field>& fields, int line)
+void SweepTable::readHeader(const std::vector<CsvFields::Field>& fields, int line)
 {
     for (const auto& field : fields) {
-        const std::string name = trimmed(field.text);
+        const std::string name = CsvFields::trim(field.text);
         const auto dot = name.find('.');
         const bool aliasPort = dot != std::string::npos && dot > 0 && dot + 1 < name.size()
                                && name.find('.', dot + 1) == std::string::npos;
@@ -116,7 +82,7 @@ void SweepTable::readHeader(const std::vector<Field>& fields, int line)
     }
 }
 
-void SweepTable::readRow(const std::vector<Field>& fields, int line)
+void SweepTable::readRow(const std::vector<CsvFields::Field>& fields, int line)
 {
     if (fields.size() != names_.size())
         refuse(filename_, line, fields.size() > names_.size() ? fields[names_.size()].column : 1,
@@ -127,12 +93,12 @@ void SweepTable::readRow(const std::vector<Field>& fields, int line)
     for (size_t i = 0; i < fields.size(); ++i) {
         const VRK::ScriptPosition place{filename_, line, fields[i].column};
         if (static_cast<int>(i) == runColumn_) {
-            row.run = trimmed(fields[i].text);
+            row.run = CsvFields::trim(fields[i].text);
             continue;
         }
         const auto dot = names_[i].find('.');
         row.parameters.push_back({names_[i].substr(0, dot), names_[i].substr(dot + 1),
-                                  trimmed(fields[i].text), place, namePositions_[i]});
+                                  CsvFields::trim(fields[i].text), place, namePositions_[i]});
     }
     const bool plain = !row.run.empty() && row.run != "." && row.run != ".."
                        && row.run.find('/') == std::string::npos;

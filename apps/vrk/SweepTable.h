@@ -1,6 +1,8 @@
 #ifndef VRK_APPS_VRK_SWEEPTABLE_H
 #define VRK_APPS_VRK_SWEEPTABLE_H
 
+#include "apps/vrk/CsvFields.h"
+
 #include "base/script/WizardParameter.h"
 #include "base/util/LineBuffer.h"
 
@@ -29,14 +31,8 @@ public:
     const std::vector<Row>& getRows() const { return rows_; }
 
 private:
-    struct Field {
-        std::string text;
-        int column;
-    };
-
-    static std::vector<Field> split(const std::string& line, const VRK::ScriptPosition& where);
-    void readHeader(const std::vector<Field>& fields, int line);
-    void readRow(const std::vector<Field>& fields, int line);
+    void readHeader(const std::vector<CsvFields::Field>& fields, int line);
+    void readRow(const std::vector<CsvFields::Field>& fields, int line);
 
     std::string filename_;
     VRK::LineBuffer source_;

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # `vrk run --workdir` and `vrk sweep`: relative outputs land in the work directory while
 # inputs beside the script are still read there; a 12-row sweep two at a time gives each
-# run the value of its row; a failing row is recorded and the others complete; a sweep
-# interrupted by Ctrl-C is resumed with only the missing rows; a run killed by a signal
+# run the value of its row; a table may begin with a byte-order mark; a failing row is
+# recorded and the others complete; a sweep interrupted by Ctrl-C is resumed with only
+# the missing rows, keeping the summary entries of the others; a run killed by a signal
 # is recorded; a bad table is refused at its place before any run starts.
 set -u
 vrk="$1"
@@ -28,6 +29,12 @@ expect_outputs ok ok
 [ "$(grep -c '^run .* finished: status 0' ok.log)" = 12 ] || fail "sweep: progress: $(cat ok.log)"
 grep -q "12 of 12 done, 0 failed" ok.log || fail "sweep: last progress line: $(cat ok.log)"
 
+# A table saved with a byte-order mark reads as one saved without.
+{ printf '\xef\xbb\xbf'; table 0 ok 3; } > bom.csv
+"$vrk" sweep model/pair.vrk bom.csv --jobs 2 --out bom > bom.log 2>&1 ||
+    fail "byte-order mark: status $?: $(cat bom.log)"
+expect_outputs bom ok 3
+
 table 0 fail > fail.csv
 "$vrk" sweep model/pair.vrk fail.csv --jobs 2 --out fail > fail.log 2>&1
 [ $? = 1 ] || fail "failing row: the sweep did not end with status 1"
@@ -51,6 +58,8 @@ wait "$sweep"
     fail "Ctrl-C: runs not marked cancelled: $(cat slow/summary.csv)"
 pgrep -f " slow/[0-9]+ " > /dev/null && fail "Ctrl-C: a run outlived the sweep"
 touch -d '2000-01-01' slow/1/out.txt
+# What the summary says of the runs that are not run again stays as it was written.
+sed -i 's/^1,0,[0-9.]*,.*$/1,0,12.345,"an error, kept"/; s/^2,0,[0-9.]*,/2,0,7.500,/' slow/summary.csv
 "$vrk" sweep model/pair.vrk slow.csv --jobs 2 --out slow --resume > resume.log 2>&1 ||
     fail "resume: status $?: $(cat resume.log)"
 [ "$(grep -o '^run [0-9]*' resume.log | sort -k2 -n | tr '\n' ' ')" = "run 5 run 6 run 7 run 8 run 9 run 10 run 11 run 12 " ] ||
@@ -58,6 +67,8 @@ touch -d '2000-01-01' slow/1/out.txt
 [ "$(find slow/1/out.txt -newermt 2001-01-01)" = "" ] || fail "resume: run 1 ran again"
 expect_outputs slow ok
 [ "$(grep -c ',0,' slow/summary.csv)" = 12 ] || fail "resume: summary: $(cat slow/summary.csv)"
+grep -qx '1,0,12.345,"an error, kept"' slow/summary.csv && grep -q '^2,0,7\.500,' slow/summary.csv ||
+    fail "resume: earlier entries changed: $(cat slow/summary.csv)"
 
 # A run that dies of a signal is recorded as such and the others complete.
 table 0 ok | sed 's/^3,30,"""0"""/3,30,"""30"""/' > crash.csv
