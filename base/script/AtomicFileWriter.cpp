@@ -2,6 +2,8 @@
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/UnableToAccessFileException.h"
+#include "base/script/StaleTemporaryRemover.h"
+#include "base/script/TemporaryFileName.h"
 
 #include <boost/filesystem/operations.hpp>
 
@@ -75,17 +77,6 @@ fs::path followLinks(const fs::path& target)
     return followed;
 }
 
-// "." + the target's name + a random suffix, the name shortened where the file system
-// would refuse its length.
-fs::path temporaryBeside(const fs::path& target)
-{
-    const fs::path folder = target.parent_path().empty() ? fs::path(".") : target.parent_path();
-    const long limit = ::pathconf(folder.c_str(), _PC_NAME_MAX);
-    const std::string suffix = fs::unique_path(".%%%%%%%%.tmp").string();
-    const size_t room = static_cast<size_t>(limit > 0 ? limit : NAME_MAX) - suffix.size() - 1;
-    return target.parent_path() / ("." + target.filename().string().substr(0, room) + suffix);
-}
-
 void keepPermissions(const fs::path& target, const fs::path& temporary)
 {
     boost::system::error_code error;
@@ -119,7 +110,8 @@ void writeAndRename(const fs::path& target, const fs::path& temporary,
 void AtomicFileWriter::write(const fs::path& target, const Content& content)
 {
     const fs::path destination = followLinks(target);
-    const fs::path temporary = temporaryBeside(destination);
+    StaleTemporaryRemover::removeFor(destination);
+    const fs::path temporary = TemporaryFileName::beside(destination);
     TemporarySlot* listed = listTemporary(temporary);
     try {
         writeAndRename(destination, temporary, content);

@@ -14,7 +14,9 @@ namespace VRK {
 //
 // A target that is a symbolic link is written where the link leads, and the link stays;
 // a target that exists keeps its permissions. The temporary file's name stays within
-// the file system's limit on names, however long the target's name.
+// the file system's limit on names, however long the target's name (TemporaryFileName),
+// and temporary files of the target that a killed writer left are removed first
+// (StaleTemporaryRemover).
 class AtomicFileWriter {
 public:
     using Content = std::function<void(std::ostream&)>;

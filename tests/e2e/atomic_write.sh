@@ -3,6 +3,7 @@
 # symbolic link stays a link and its file is written, a name at the file system's limit
 # is written, a write beyond the size limit on files (SIGXFSZ) fails with status 1, and
 # SIGTERM or SIGINT during a write end it with 143 or 130; none leaves a temporary file.
+# What a write killed by SIGKILL left is removed by the next write of the same file.
 # SIGTERM also cancels a run (143), and a script too large for memory is refused.
 set -u
 vrk="$1"
@@ -60,6 +61,46 @@ for signal in TERM INT; do
     [ "$status" = "$expected" ] || fail "SIG$signal during a write ended with status $status"
     no_temporaries "SIG$signal"
 done
+
+# SIGKILL during a write leaves its temporary file, which no handler can remove; the
+# next write of that file removes it, but not a temporary file whose writer still runs
+# nor one of another file. The file is written over and over, so that a write is
+# under way nearly all the time.
+head -c 3000000 /dev/zero | tr '\0' 'k' > text.txt
+cat > rewrite.vrk <<'SCRIPT'
+text := LoadText filename = "text.txt";
+For firstIterationStep = 1 lastIterationStep = 1000000 {
+    SaveText text = text.text filename = "killed.txt";
+}
+SCRIPT
+printf 'SaveText text = "new" filename = "killed.txt";\n' > once.vrk
+left=
+for _ in 1 2 3 4 5; do
+    "$vrk" run rewrite.vrk --log-level .result &
+    pid=$!
+    while kill -0 "$pid" 2> /dev/null && [ -z "$(find . -name '.killed.txt.*.tmp')" ]; do
+        sleep 0.01
+    done
+    kill -KILL "$pid" 2> /dev/null
+    wait "$pid" 2> /dev/null
+    left=$(find . -name '.killed.txt.*.tmp')
+    [ -n "$left" ] && break
+done
+[ -n "$left" ] || fail "SIGKILL during a write left no temporary file to remove"
+sleep 600 &
+running=$!
+other=".other${left#./.killed}"
+cp "$left" "$other"
+printf 'half' > ".killed.txt.$running.0123abcd.tmp"
+touch -d '2000-01-01' ".killed.txt.$running.0123abcd.tmp" "$other"
+"$vrk" run once.vrk --log-level .result || fail "killed.txt is not written again"
+[ "$(cat killed.txt)" = new ] || fail "killed.txt is not the new text"
+[ ! -e "$left" ] || fail "the temporary file of the killed write stayed"
+[ -e ".killed.txt.$running.0123abcd.tmp" ] || fail "the temporary file of a running writer was removed"
+[ -e "$other" ] || fail "the temporary file of another target was removed"
+kill "$running"
+wait "$running" 2> /dev/null
+rm -f .*.tmp
 
 # SIGTERM once the run has begun, as the banner of the Repeat around the loop tells, so
 # that it never meets a vrk still starting.
