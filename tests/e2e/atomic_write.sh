@@ -49,8 +49,7 @@ for signal in TERM INT; do
         rm -f "signalled.vrk"
         "$vrk" convert big.vrk signalled.vrk &
         pid=$!
-        for _ in $(seq 1 3000); do
-            [ -n "$(find . -name '.signalled.vrk.*.tmp')" ] && break
+        while kill -0 "$pid" 2> /dev/null && [ -z "$(find . -name '.signalled.vrk.*.tmp')" ]; do
             sleep 0.01
         done
         kill "-$signal" "$pid" 2> /dev/null
