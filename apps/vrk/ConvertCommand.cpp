@@ -1,6 +1,6 @@
 #include "apps/vrk/ConvertCommand.h"
 
-#include "apps/vrk/DiagnosticPrinter.h"
+#include "apps/host/DiagnosticPrinter.h"
 
 #include "base/error/Exception.h"
 #include "base/script/Script.h"

@@ -1,6 +1,6 @@
 #include "apps/vrk/SweepSession.h"
 
-#include "apps/vrk/DiagnosticPrinter.h"
+#include "apps/host/DiagnosticPrinter.h"
 #include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/SweepProgress.h"
 #include "apps/vrk/SweepRunner.h"

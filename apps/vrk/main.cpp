@@ -1,8 +1,8 @@
 #include "apps/vrk/CheckCommand.h"
 #include "apps/vrk/ConvertCommand.h"
 #include "apps/vrk/DescribeCommand.h"
-#include "apps/vrk/DiagnosticPrinter.h"
-#include "apps/vrk/HostSession.h"
+#include "apps/host/DiagnosticPrinter.h"
+#include "apps/host/HostSession.h"
 #include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
@@ -10,6 +10,7 @@
 
 #include "base/error/Exception.h"
 #include "base/log/LogTagInfo.h"
+#include "base/log/StreamLogSink.h"
 
 #include <CLI/CLI.hpp>
 
@@ -17,6 +18,7 @@
 #include <exception>
 #include <functional>
 #include <iostream>
+#include <memory>
 #include <new>
 #include <vector>
 
@@ -116,8 +118,9 @@ int runCommandLine(int argc, char** argv)
         return status == 0 ? 0 : 2;
     }
 
-    HostSession session(*VRK::LogTagInfo::fromName(logLevel), pluginDir);
-    const bool pluginsLoaded = session.reportPluginFailures();
+    HostSession session(*VRK::LogTagInfo::fromName(logLevel), pluginDir,
+                        std::make_shared<VRK::StreamLogSink>(std::cout));
+    const bool pluginsLoaded = session.reportPluginFailures(std::cerr, "vrk");
 
     for (const auto& command : commands)
         if (command.app->parsed()) {

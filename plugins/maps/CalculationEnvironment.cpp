@@ -58,6 +58,13 @@ CalculationEnvironment::CalculationEnvironment(const VRK::ContainerFunctor& cont
         VRK::Singleton<NamedLookupTableRegistratorType>::getInstance(), "t");
 }
 
+CalculationEnvironment::CalculationEnvironment() = default;
+
+void CalculationEnvironment::addValue(const std::string& name, double value)
+{
+    add(values_, name, value);
+}
+
 void CalculationEnvironment::addMap(const std::string& name,
                                     const std::shared_ptr<const Tessaly::Raster>& map)
 {
@@ -71,8 +78,8 @@ void CalculationEnvironment::addTable(const std::string& name,
 }
 
 template <class T>
-void CalculationEnvironment::add(std::map<std::string, std::shared_ptr<const T>>& entities,
-                                 const std::string& name, const std::shared_ptr<const T>& entity)
+void CalculationEnvironment::add(std::map<std::string, T>& entities, const std::string& name,
+                                 const T& entity)
 {
     if (!entities.emplace(name, entity).second)
         VRK::ExceptionUtils::raise<VRK::Exception>(

@@ -20,6 +20,10 @@ namespace Maps {
 class CalculationEnvironment {
 public:
     explicit CalculationEnvironment(const VRK::ContainerFunctor& container);
+    // Empty, for a calculation that a program gives its maps, tables and values itself.
+    CalculationEnvironment();
+
+    void addValue(const std::string& name, double value);
 
     void addMap(const std::string& name, const std::shared_ptr<const Tessaly::Raster>& map);
     void addTable(const std::string& name,
@@ -40,8 +44,7 @@ private:
     flattenEntities(const std::map<std::string, std::shared_ptr<const T>>& entities,
                     const Tessaly::TopLevelImageExpression& expression, Tessaly::EntityKind kind);
     template <class T>
-    static void add(std::map<std::string, std::shared_ptr<const T>>& entities,
-                    const std::string& name, const std::shared_ptr<const T>& entity);
+    static void add(std::map<std::string, T>& entities, const std::string& name, const T& entity);
 
     std::map<std::string, double> values_;
     std::map<std::string, std::shared_ptr<const Tessaly::Raster>> maps_;

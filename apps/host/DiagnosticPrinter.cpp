@@ -1,4 +1,6 @@
-#include "apps/vrk/DiagnosticPrinter.h"
+#include "apps/host/DiagnosticPrinter.h"
+
+#include "apps/host/HostError.h"
 
 #include "base/error/Exception.h"
 #include "base/util/PrintableText.h"
@@ -16,10 +18,12 @@ void DiagnosticPrinter::addSource(const std::string& filename, const VRK::LineBu
 
 void DiagnosticPrinter::print(const VRK::Exception& error, const std::string& file)
 {
-    VRK::ScriptPosition position = error.getScriptPosition();
-    if (!position.isKnown() || position.file.empty())
-        position = VRK::ScriptPosition{file, 0, 0};
-    print(error.getMessage(), position);
+    print(HostError::of(error, file));
+}
+
+void DiagnosticPrinter::print(const HostError& error)
+{
+    print(error.getMessage(), error.getPosition());
 }
 
 void DiagnosticPrinter::print(const std::string& message, const VRK::ScriptPosition& position)

@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_DIAGNOSTICPRINTER_H
-#define VRK_APPS_VRK_DIAGNOSTICPRINTER_H
+#ifndef VRK_APPS_HOST_DIAGNOSTICPRINTER_H
+#define VRK_APPS_HOST_DIAGNOSTICPRINTER_H
 
 #include "base/util/LineBuffer.h"
 #include "base/util/ScriptPosition.h"
@@ -7,6 +7,8 @@
 #include <map>
 #include <ostream>
 #include <string>
+
+class HostError;
 
 namespace VRK {
 class Exception;
@@ -27,6 +29,7 @@ public:
 
     // `file` is named when the error carries no position of its own.
     void print(const VRK::Exception& error, const std::string& file = std::string());
+    void print(const HostError& error);
     void print(const std::string& message, const VRK::ScriptPosition& position);
 
 private:

@@ -1,0 +1,36 @@
+"""Shared fixtures of the Python module's tests. ctest runs them with the package of the
+build on PYTHONPATH and the vrk binary in VRK_BINARY."""
+
+import os
+import pathlib
+import subprocess
+
+import pytest
+
+HERE = pathlib.Path(__file__).resolve().parent
+SOURCE = HERE.parents[1]
+
+
+@pytest.fixture
+def models():
+    return HERE / "models"
+
+
+@pytest.fixture
+def examples():
+    return SOURCE / "examples"
+
+
+@pytest.fixture
+def vrk_binary():
+    """Runs the command line; returns (status, stdout, stderr)."""
+    binary = os.environ.get("VRK_BINARY")
+    if not binary:
+        pytest.skip("VRK_BINARY names no vrk binary")
+
+    def run(*arguments, cwd=None):
+        done = subprocess.run([binary, *map(str, arguments)], capture_output=True, text=True,
+                              cwd=cwd, timeout=300)
+        return done.returncode, done.stdout, done.stderr
+
+    return run
