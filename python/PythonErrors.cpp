@@ -26,6 +26,9 @@ void PythonErrors::raise(const char* kind, const HostError& error,
     DiagnosticPrinter printer(text);
     addSources(printer);
     printer.print(error);
+    std::string diagnostic = text.str();
+    if (!diagnostic.empty() && diagnostic.back() == '\n')
+        diagnostic.pop_back();
     const VRK::ScriptPosition& position = error.getPosition();
     const py::object type = errorClass(kind);
     const py::object instance = type(
@@ -34,7 +37,7 @@ void PythonErrors::raise(const char* kind, const HostError& error,
         py::arg("column") = positionPart(position.column),
         py::arg("functor") = error.getFunctor().empty() ? py::object(py::none())
                                                           : py::object(py::str(error.getFunctor())),
-        py::arg("diagnostic") = text.str());
+        py::arg("diagnostic") = diagnostic);
     PyErr_SetObject(type.ptr(), instance.ptr());
     throw py::error_already_set();
 }

@@ -66,7 +66,7 @@ def test_a_bad_formula_gets_the_message_a_script_gets(tmp_path, vrk_binary):
 
 def test_inputs_that_do_not_fit_the_formula_raise_run_errors():
     one = np.ones((2, 2))
-    for formula, arrays, words in [("i1 + i3", (one, one, one), "i2"),
+    for formula, arrays, words in [("i1 + i3", (one, one, one), "Index 3 .* must be changed to 2"),
                                    ("i1 + i2", (one, np.ones((3, 2))), "grid"),
                                    ("$rate * i1", (one,), "rate"),
                                    ("%table[i1]", (one,), "table")]:
