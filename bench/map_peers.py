@@ -21,17 +21,23 @@ def best_rate(run):
     return SIDE * SIDE / best
 
 
+def make_arrays(np):
+    """The two arrays that every calculation of the benchmarks reads."""
+    generator = np.random.default_rng(1)
+    a = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
+    b = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
+    a.flat[::100003] = np.nan
+    b.flat[::100019] = np.nan
+    return a, b
+
+
 def main():
     try:
         import numpy as np
     except ImportError:
         print("note: numpy is not installed; the peers' runs are skipped.")
         return 0
-    generator = np.random.default_rng(1)
-    a = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
-    b = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
-    a.flat[::100003] = np.nan
-    b.flat[::100019] = np.nan
+    a, b = make_arrays(np)
     with np.errstate(invalid="ignore"):
         print("numpy, 1 thread\t%.0f" % best_rate(lambda: np.where(a > 0, a * 2 + b, 0)))
     try:

@@ -12,32 +12,17 @@ result out: what a caller of vrk.calculate waits for.
 
 import os
 import sys
-import time
 
 import numpy as np
 
 import vrk
+from map_peers import best_rate, make_arrays
 
-SIDE = 4096
-REPEATS = 5
 FORMULA = "if i1 > 0 then i1 * 2 + i2 else 0"
 
 
-def best_rate(run):
-    best = float("inf")
-    for _ in range(REPEATS):
-        start = time.perf_counter()
-        run()
-        best = min(best, time.perf_counter() - start)
-    return SIDE * SIDE / best
-
-
 def main():
-    generator = np.random.default_rng(1)
-    a = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
-    b = generator.uniform(-1, 1, (SIDE, SIDE)).astype(np.float32)
-    a.flat[::100003] = np.nan
-    b.flat[::100019] = np.nan
+    a, b = make_arrays(np)
     processors = os.cpu_count() or 1
     rates = {}
     rates["vrk, 1 thread"] = best_rate(lambda: vrk.calculate(FORMULA, a, b, processors=1))

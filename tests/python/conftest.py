@@ -3,6 +3,7 @@ build on PYTHONPATH and the vrk binary in VRK_BINARY."""
 
 import os
 import pathlib
+import shutil
 import subprocess
 
 import pytest
@@ -14,11 +15,6 @@ SOURCE = HERE.parents[1]
 @pytest.fixture
 def models():
     return HERE / "models"
-
-
-@pytest.fixture
-def examples():
-    return SOURCE / "examples"
 
 
 @pytest.fixture
@@ -34,3 +30,11 @@ def vrk_binary():
         return done.returncode, done.stdout, done.stderr
 
     return run
+
+
+@pytest.fixture
+def town(tmp_path):
+    """A copy of the town model of examples/maps and its inputs; returns its script."""
+    for name in ["model.vrk", "landuse.asc", "town.asc", "suitability.csv"]:
+        shutil.copy(SOURCE / "examples" / "maps" / name, tmp_path / name)
+    return tmp_path / "model.vrk"

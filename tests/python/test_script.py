@@ -2,7 +2,6 @@
 the outputs read back."""
 
 import logging
-import shutil
 
 import pytest
 
@@ -127,10 +126,9 @@ def test_an_error_raised_by_the_log_callback_stops_the_run(models):
         script.run(log=refuse)
 
 
-def test_relative_files_of_a_script_lie_beside_it(tmp_path, examples):
-    for name in ["model.vrk", "landuse.asc", "town.asc", "suitability.csv"]:
-        shutil.copy(examples / "maps" / name, tmp_path / name)
-    script = vrk.Script(str(tmp_path / "model.vrk"))
+def test_relative_files_of_a_script_lie_beside_it(town):
+    tmp_path = town.parent
+    script = vrk.Script(str(town))
     script.set("years.lastIterationStep", 2)
     script.run(log_level=".warning")
     assert sorted(path.name for path in tmp_path.glob("state_*.tif")) == ["state_01.tif",
