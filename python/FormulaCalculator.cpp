@@ -107,6 +107,7 @@ py::array FormulaCalculator::calculate(const std::string& formula, const py::arg
         const Tessaly::CellType cellType =
             categorical ? Tessaly::CellType::Int32 : Tessaly::CellType::Float32;
         VRK::Task task;
+        // A calculation logs nothing: only the end of its work is waited for.
         LogQueue none;
         BackgroundCall::run(
             [&] {
