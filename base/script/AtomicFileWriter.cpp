@@ -89,15 +89,9 @@ void keepPermissions(const fs::path& target, const fs::path& temporary)
 }
 
 void writeAndRename(const fs::path& target, const fs::path& temporary,
-                    const AtomicFileWriter::Content& content)
+                    const AtomicFileWriter::FileContent& content)
 {
-    std::ofstream out(temporary.string(), std::ios::binary | std::ios::trunc);
-    if (!out)
-        fail(target, "its folder does not accept a new file");
-    content(out);
-    out.close();
-    if (!out)
-        fail(target, "the data could not be stored");
+    content(temporary);
     keepPermissions(target, temporary);
     boost::system::error_code error;
     fs::rename(temporary, target, error);
@@ -108,6 +102,19 @@ void writeAndRename(const fs::path& target, const fs::path& temporary,
 } // namespace
 
 void AtomicFileWriter::write(const fs::path& target, const Content& content)
+{
+    writeFile(target, [&](const fs::path& temporary) {
+        std::ofstream out(temporary.string(), std::ios::binary | std::ios::trunc);
+        if (!out)
+            fail(target, "its folder does not accept a new file");
+        content(out);
+        out.close();
+        if (!out)
+            fail(target, "the data could not be stored");
+    });
+}
+
+void AtomicFileWriter::writeFile(const fs::path& target, const FileContent& content)
 {
     const fs::path destination = followLinks(target);
     StaleTemporaryRemover::removeFor(destination);

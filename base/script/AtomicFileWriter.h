@@ -20,10 +20,13 @@ namespace VRK {
 class AtomicFileWriter {
 public:
     using Content = std::function<void(std::ostream&)>;
+    // Writes the whole file at the path given, for writers that open files themselves.
+    using FileContent = std::function<void(const boost::filesystem::path& temporary)>;
 
     // Throws an UnableToAccessFileException when the file cannot be written; an
     // exception of `content` passes through.
     static void write(const boost::filesystem::path& target, const Content& content);
+    static void writeFile(const boost::filesystem::path& target, const FileContent& content);
 
     // Removes the temporary files of the writes under way, for a signal handler that
     // ends the process: it only unlinks files, which is safe inside a handler. Writes
