@@ -44,6 +44,14 @@ std::vector<double> BlockProgram::computeScalars(const CalculationData& data, in
     return values;
 }
 
+LineReach BlockProgram::getReach(const std::vector<double>& scalars) const
+{
+    LineReach reach;
+    for (const BlockStepPtr& step : steps_)
+        step->widenReach(scalars, reach);
+    return reach;
+}
+
 void BlockProgram::run(BlockFrame& frame) const
 {
     for (const BlockStepPtr& step : steps_)

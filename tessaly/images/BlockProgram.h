@@ -36,6 +36,9 @@ public:
     std::vector<FocalColumns> makeFocalColumns() const;
     // The scalars' values for one calculation's inputs; `data.scalars` is not read.
     std::vector<double> computeScalars(const CalculationData& data, int imageCount) const;
+    // The lines around the current one that the steps read, under the calculation's
+    // scalars.
+    LineReach getReach(const std::vector<double>& scalars) const;
     // Leaves the block's result in the result operand.
     void run(BlockFrame& frame) const;
 

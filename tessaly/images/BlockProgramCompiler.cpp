@@ -331,7 +331,8 @@ Operand BlockProgramCompiler::fallBack(const ImageExpression& node)
         loaded.emplace_back(image, loadImage(image));
     int slot;
     const Operand result = newRegister(slot);
-    program_->addStep(std::make_unique<FallbackStep>(node, std::move(loaded), imageCount_, slot));
+    program_->addStep(std::make_unique<FallbackStep>(node, std::move(loaded), imageCount_,
+                                                     facts_.readsAroundCell(node), slot));
     return result;
 }
 

@@ -4,4 +4,6 @@ namespace Tessaly {
 
 BlockStep::~BlockStep() = default;
 
+void BlockStep::widenReach(const std::vector<double>&, LineReach&) const {}
+
 } // namespace Tessaly

@@ -67,6 +67,10 @@ public:
     {
     }
     void run(BlockFrame& frame) const override;
+    void widenReach(const std::vector<double>&, LineReach& reach) const override
+    {
+        reach.whole = true;
+    }
 
 private:
     int image_;

@@ -115,6 +115,24 @@ void FocalStep::run(BlockFrame& frame) const
                   frame.count);
 }
 
+void FocalStep::widenReach(const std::vector<double>& scalars, LineReach& reach) const
+{
+    const double height = std::floor(scalars[size_t(window_[0].slot)]);
+    const double centre = std::floor(scalars[size_t(window_[2].slot)]);
+    // An empty window reads nothing; one too tall for any grid reads every line.
+    if (!(height >= 1) || !std::isfinite(centre))
+        return;
+    const double limit = std::numeric_limits<int>::max() / 4;
+    const double above = std::max(0.0, centre);
+    const double below = std::max(0.0, height - 1 - centre);
+    if (above > limit || below > limit) {
+        reach.whole = true;
+        return;
+    }
+    reach.above = std::max(reach.above, int(above));
+    reach.below = std::max(reach.below, int(below));
+}
+
 bool FocalStep::findSpan(const BlockFrame& frame, Span& span) const
 {
     double window[4];

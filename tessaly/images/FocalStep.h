@@ -28,6 +28,7 @@ public:
     {
     }
     void run(BlockFrame& frame) const override;
+    void widenReach(const std::vector<double>& scalars, LineReach& reach) const override;
 
 private:
     struct Span;

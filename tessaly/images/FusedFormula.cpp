@@ -101,10 +101,9 @@ void FusedFormula::runLines(const CalculationData& data, int firstLine, int endL
     const bool stream =
         size_t(result.getLineCount()) * size_t(columns) * sizeof(float) >= StreamedBytes;
     for (int line = firstLine; line < endLine; ++line) {
-        const size_t first = size_t(line) * size_t(columns);
         for (size_t k = 0; k < images_.size(); ++k)
-            leaves.cells[k] = data.rasters[size_t(images_[k] - 1)]->cells<float>() + first;
-        kernel_(leaves, columns, resultNoData, stream, result.cells<float>() + first);
+            leaves.cells[k] = data.rasters[size_t(images_[k] - 1)]->lineCells<float>(line);
+        kernel_(leaves, columns, resultNoData, stream, result.lineCells<float>(line));
     }
 }
 

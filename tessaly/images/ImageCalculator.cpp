@@ -72,6 +72,11 @@ struct ImageCalculator::Program {
     std::unique_ptr<BlockProgram> blocks;
 
     void checkInputs(const ImageCalculationInputs& inputs) const;
+    // The inputs with the scalars worked out; `checkpoint` must outlive the data.
+    CalculationData prepare(const ImageCalculationInputs& inputs,
+                            const std::function<void()>& checkpoint) const;
+    void checkStrips(const CalculationData& data, int firstLine, int endLine,
+                     const Raster& result) const;
     void runTile(const CalculationData& data, int firstLine, int endLine, Raster& result,
                  const Checkpoint& checkpoint) const;
 };
@@ -142,22 +147,63 @@ void ImageCalculator::Program::runTile(const CalculationData& data, int firstLin
         }
 }
 
-Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType cellType,
-                                  int processors, const std::function<void()>& checkpoint) const
+int ImageCalculator::getTileLines(int columns)
 {
-    program_->checkInputs(inputs);
-    const Raster& first = *inputs.images[0];
+    return std::max(1, TileCells / std::max(1, columns));
+}
+
+CalculationData ImageCalculator::Program::prepare(const ImageCalculationInputs& inputs,
+                                                  const std::function<void()>& checkpoint) const
+{
+    checkInputs(inputs);
     CalculationData data{inputs.images, {}, inputs.values, inputs.tables, {},
                          checkpoint ? &checkpoint : nullptr};
     data.images.assign(inputs.images.begin(), inputs.images.end());
-    const int imageCount = program_->formula.getDictionary().getCount(EntityKind::Image);
-    data.scalars = program_->blocks->computeScalars(data, imageCount);
+    data.scalars =
+        blocks->computeScalars(data, formula.getDictionary().getCount(EntityKind::Image));
+    return data;
+}
 
-    Raster result(first.getGrid(), cellType, Raster::Uninitialised());
+LineReach ImageCalculator::getReach(const ImageCalculationInputs& inputs) const
+{
+    return program_->blocks->getReach(program_->prepare(inputs, {}).scalars);
+}
+
+Raster ImageCalculator::makeResult(const ImageCalculationInputs& inputs, CellType cellType,
+                                   int firstLine, int endLine) const
+{
+    program_->checkInputs(inputs);
+    const Raster& first = *inputs.images[0];
+    Raster result(first.getGrid(), cellType, firstLine, endLine, Raster::Uninitialised());
     result.setNoData(resultNoData(first, cellType));
+    return result;
+}
+
+void ImageCalculator::Program::checkStrips(const CalculationData& data, int firstLine, int endLine,
+                                           const Raster& result) const
+{
     const int lines = result.getLineCount();
-    const int tileLines = std::max(1, TileCells / std::max(1, result.getColumnCount()));
-    const int tiles = (lines + tileLines - 1) / tileLines;
+    const int tileLines = getTileLines(result.getColumnCount());
+    assert(firstLine % tileLines == 0 && (endLine % tileLines == 0 || endLine == lines)
+           && result.holdsLines(firstLine, endLine) && "a strip of whole tiles of the result");
+    const LineReach reach = blocks->getReach(data.scalars);
+    const int top = reach.whole ? 0 : std::max(0, firstLine - reach.above);
+    const int bottom =
+        reach.whole ? lines : int(std::min<long>(lines, long(endLine) + reach.below));
+    for (const Raster* image : data.rasters)
+        assert((!image || image->holdsLines(top, bottom)) && "images hold the lines within reach");
+    (void)top, (void)bottom, (void)tileLines;
+}
+
+void ImageCalculator::calculateLines(const ImageCalculationInputs& inputs, int firstLine,
+                                     int endLine, Raster& result, int processors,
+                                     const std::function<void()>& checkpoint) const
+{
+    const CalculationData data = program_->prepare(inputs, checkpoint);
+    program_->checkStrips(data, firstLine, endLine, result);
+    const int tileLines = getTileLines(result.getColumnCount());
+    const int firstTile = firstLine / tileLines;
+    const int endTile = (endLine + tileLines - 1) / tileLines;
     // Never more threads than the process allows: asking for more only draws a warning.
     const int allowed =
         int(tbb::global_control::active_value(tbb::global_control::max_allowed_parallelism));
@@ -165,16 +211,26 @@ Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType
     const Checkpoint check(checkpoint);
     try {
         arena.execute([&] {
-            tbb::parallel_for(
-                tbb::blocked_range<int>(0, tiles, 1), [&](const tbb::blocked_range<int>& range) {
-                    for (int tile = range.begin(); tile < range.end(); ++tile)
-                        program_->runTile(data, tile * tileLines,
-                                          std::min(lines, (tile + 1) * tileLines), result, check);
-                });
+            tbb::parallel_for(tbb::blocked_range<int>(firstTile, endTile, 1),
+                              [&](const tbb::blocked_range<int>& range) {
+                                  for (int tile = range.begin(); tile < range.end(); ++tile)
+                                      program_->runTile(data, tile * tileLines,
+                                                        std::min(endLine, (tile + 1) * tileLines),
+                                                        result, check);
+                              });
         });
     } catch (const AbortRequest&) {
         program_->formula.raiseAborted();
     }
+}
+
+Raster ImageCalculator::calculate(const ImageCalculationInputs& inputs, CellType cellType,
+                                  int processors, const std::function<void()>& checkpoint) const
+{
+    const int lines =
+        inputs.images.empty() || !inputs.images[0] ? 0 : inputs.images[0]->getLineCount();
+    Raster result = makeResult(inputs, cellType, 0, lines);
+    calculateLines(inputs, 0, lines, result, processors, checkpoint);
     return result;
 }
 

@@ -1,6 +1,7 @@
 #ifndef VRK_TESSALY_IMAGES_IMAGECALCULATOR_H
 #define VRK_TESSALY_IMAGES_IMAGECALCULATOR_H
 
+#include "tessaly/images/BlockStep.h"
 #include "tessaly/images/Raster.h"
 
 #include <functional>
@@ -42,6 +43,26 @@ public:
     // is written as NoData.
     Raster calculate(const ImageCalculationInputs& inputs, CellType cellType, int processors,
                      const std::function<void()>& checkpoint) const;
+
+    // A map larger than memory is calculated strip by strip, its images holding strips
+    // too: these give the same cells as `calculate`.
+    //
+    // The lines of a tile, for a grid of `columns` columns: a calculation cuts the grid
+    // into tiles that start at multiples of it, each tile's windows starting afresh, so
+    // that a strip of whole tiles gets the cells of the whole calculation.
+    static int getTileLines(int columns);
+    // The lines around a calculated line that the formula reads from its images, under
+    // the values and tables of `inputs` (of its images only the grids and NoData count).
+    LineReach getReach(const ImageCalculationInputs& inputs) const;
+    // The result's lines [firstLine, endLine), cells unset, with calculate's NoData.
+    Raster makeResult(const ImageCalculationInputs& inputs, CellType cellType, int firstLine,
+                      int endLine) const;
+    // Calculates the lines [firstLine, endLine) into `result`, which holds them. Each
+    // image holds those lines and, within its grid, the reach around them. `firstLine`
+    // starts a tile; `endLine` too, or it ends the grid.
+    void calculateLines(const ImageCalculationInputs& inputs, int firstLine, int endLine,
+                        Raster& result, int processors,
+                        const std::function<void()>& checkpoint) const;
 
 private:
     struct Program;

@@ -77,20 +77,33 @@ std::int32_t roundToInt32(double value, bool hasNoData, std::int32_t noData)
 
 } // namespace
 
-Raster::Raster(const Grid& grid, CellType cellType) : Raster(grid, cellType, Uninitialised())
+Raster::Raster(const Grid& grid, CellType cellType) : Raster(grid, cellType, 0, grid.lines) {}
+
+Raster::Raster(const Grid& grid, CellType cellType, int firstLine, int endLine)
+    : Raster(grid, cellType, firstLine, endLine, Uninitialised())
 {
     std::fill(cells_.begin(), cells_.end(), std::uint8_t(0));
 }
 
-Raster::Raster(const Grid& grid, CellType cellType, Uninitialised)
-    : grid_(grid), cellType_(cellType),
-      cells_(static_cast<size_t>(grid.lines) * static_cast<size_t>(grid.columns)
+Raster::Raster(const Grid& grid, CellType cellType, int firstLine, int endLine, Uninitialised)
+    : grid_(grid), cellType_(cellType), firstLine_(firstLine), endLine_(endLine),
+      cells_(static_cast<size_t>(endLine - firstLine) * static_cast<size_t>(grid.columns)
              * getCellSize(cellType))
 {
     assert(grid.lines >= 0 && grid.columns >= 0 && "a grid's size is not negative");
+    assert(firstLine >= 0 && firstLine <= endLine && endLine <= grid.lines
+           && "a strip of the grid's lines");
 }
 
 Raster::~Raster() = default;
+
+Raster Raster::stripOf(const Raster& like, int firstLine, int endLine)
+{
+    Raster strip(like.grid_, like.cellType_, firstLine, endLine, Uninitialised());
+    strip.hasNoData_ = like.hasNoData_;
+    strip.noData_ = like.noData_;
+    return strip;
+}
 
 double Raster::getNoDataValue() const { return hasNoData_ ? noData_ : Null; }
 
@@ -106,6 +119,11 @@ size_t Raster::getCellSize(CellType cellType)
     }
     assert(false && "a known cell type");
     return 0;
+}
+
+size_t Raster::getGridByteCount() const
+{
+    return size_t(grid_.lines) * size_t(grid_.columns) * getCellSize(cellType_);
 }
 
 void Raster::setNoData(double noData)
@@ -158,11 +176,18 @@ void Raster::setValue(int line, int column, double value)
     writeCells(line, column, 1, &value);
 }
 
+size_t Raster::heldOffset(int line, int column) const
+{
+    assert(line >= firstLine_ && line < endLine_ && "a line that the raster holds");
+    return static_cast<size_t>(line - firstLine_) * static_cast<size_t>(grid_.columns)
+           + static_cast<size_t>(column);
+}
+
 void Raster::readCells(int line, int column, int count, double* out) const
 {
     assert(line >= 0 && line < grid_.lines && column >= 0 && count >= 0
            && column + count <= grid_.columns && "cells inside the raster");
-    size_t first = static_cast<size_t>(line) * grid_.columns + column;
+    const size_t first = heldOffset(line, column);
     switch (cellType_) {
     case CellType::Int32:
         readAs(cells<std::int32_t>() + first, count, hasNoData_ ? noData_ : Null, out);
@@ -181,7 +206,7 @@ void Raster::writeCells(int line, int column, int count, const double* in)
 {
     assert(line >= 0 && line < grid_.lines && column >= 0 && count >= 0
            && column + count <= grid_.columns && "cells inside the raster");
-    size_t first = static_cast<size_t>(line) * grid_.columns + column;
+    const size_t first = heldOffset(line, column);
     switch (cellType_) {
     case CellType::Int32: {
         std::int32_t* out = cells<std::int32_t>() + first;

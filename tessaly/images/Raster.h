@@ -16,18 +16,33 @@ enum class CellType { Int32, Float32, Float64 };
 
 // A raster in memory: its grid, cells line by line, and the value that marks a null
 // cell (NoData), if any. Formulas read a NoData cell, and a NaN cell, as null.
+//
+// A raster may hold only a strip of its grid's lines, [getFirstLine(), getEndLine()),
+// so that maps larger than memory are calculated strip by strip; it still answers for
+// the whole grid's size, and reading a line it does not hold is a programming error.
 class Raster : public Image {
 public:
     // Every cell 0.
     Raster(const Grid& grid, CellType cellType);
+    // The strip of lines [firstLine, endLine), every cell 0.
+    Raster(const Grid& grid, CellType cellType, int firstLine, int endLine);
     Raster(const Raster&) = default;
     Raster& operator=(const Raster&) = default;
     Raster(Raster&&) = default;
     Raster& operator=(Raster&&) = default;
     ~Raster() override;
+    // The strip [firstLine, endLine) of `like`'s grid, with its cell type and NoData, its
+    // cells left as they come: for a strip whose every cell is written next.
+    static Raster stripOf(const Raster& like, int firstLine, int endLine);
 
     const Grid& getGrid() const { return grid_; }
     CellType getCellType() const { return cellType_; }
+    int getFirstLine() const { return firstLine_; }
+    int getEndLine() const { return endLine_; }
+    bool holdsLines(int firstLine, int endLine) const
+    {
+        return firstLine >= firstLine_ && endLine <= endLine_;
+    }
 
     bool hasNoData() const { return hasNoData_; }
     double getNoData() const { return noData_; }
@@ -44,12 +59,28 @@ public:
     // cells and refused by an assertion in Int32 cells.
     void setValue(int line, int column, double value);
 
-    // The cells, line by line; only for the raster's own cell type (asserted).
-    template <class T> T* cells();
-    template <class T> const T* cells() const;
+    // The cells held, line by line from the first held; only for the raster's own cell
+    // type (asserted).
+    template <class T>
+    T* cells();
+    template <class T>
+    const T* cells() const;
+    // The cells of one held line.
+    template <class T>
+    T* lineCells(int line)
+    {
+        return cells<T>() + heldOffset(line, 0);
+    }
+    template <class T>
+    const T* lineCells(int line) const
+    {
+        return cells<T>() + heldOffset(line, 0);
+    }
     void* rawCells() { return cells_.data(); }
     const void* rawCells() const { return cells_.data(); }
     static size_t getCellSize(CellType cellType);
+    // The bytes of every cell of the grid, whatever the raster holds.
+    size_t getGridByteCount() const;
 
     // `count` cells of `line` from `column` as doubles, NaN for null: the fast path by
     // which calculations read blocks of cells.
@@ -62,10 +93,14 @@ private:
     friend class ImageCalculator;
     struct Uninitialised {};
     // For a result whose every cell is written at once: its cells are left as they come.
-    Raster(const Grid& grid, CellType cellType, Uninitialised);
+    Raster(const Grid& grid, CellType cellType, int firstLine, int endLine, Uninitialised);
+
+    size_t heldOffset(int line, int column) const;
 
     Grid grid_;
     CellType cellType_;
+    int firstLine_ = 0;
+    int endLine_ = 0;
     bool hasNoData_ = false;
     double noData_ = 0;
     std::vector<std::uint8_t, CellAllocator<std::uint8_t>> cells_;

@@ -39,9 +39,11 @@ unsigned char SubtreeFacts::ownFacts(const ImageExpression& node)
                                                     "Column",     "Rand",   "Abort"};
     const char* name = node.getName();
     unsigned char facts = 0;
-    if (cellNodes.count(name) != 0
-        || dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node) != nullptr)
+    const bool window = dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node) != nullptr;
+    if (cellNodes.count(name) != 0 || window)
         facts |= Varies;
+    if (window || std::strcmp(name, "ImageValue2") == 0)
+        facts |= ReadsAround;
     if (std::strcmp(name, "Abort") == 0 || std::strcmp(name, "Rand") == 0)
         facts |= AbortsOrDraws;
     return facts;

@@ -26,8 +26,15 @@ public:
         return (factsOf(node) & AbortsOrDraws) != 0;
     }
 
+    // Whether the subtree reads cells away from the current one (windows, explicit
+    // places), which may lie on any line.
+    bool readsAroundCell(const ImageExpression& node) const
+    {
+        return (factsOf(node) & ReadsAround) != 0;
+    }
+
 private:
-    enum Fact : unsigned char { Varies = 1, AbortsOrDraws = 2 };
+    enum Fact : unsigned char { Varies = 1, AbortsOrDraws = 2, ReadsAround = 4 };
 
     static unsigned char ownFacts(const ImageExpression& node);
     unsigned char factsOf(const ImageExpression& node) const;

@@ -1,0 +1,7 @@
+#include "tessaly/raster/RasterSource.h"
+
+namespace Tessaly {
+
+RasterSource::~RasterSource() = default;
+
+} // namespace Tessaly

@@ -1,0 +1,95 @@
+#include "tessaly/raster/StripCalculator.h"
+
+#include <algorithm>
+#include <map>
+
+namespace Tessaly {
+
+StripCalculator::StripCalculator(const ImageCalculator& calculator,
+                                 const SourceCalculationInputs& inputs, CellType cellType,
+                                 int processors, std::function<void()> checkpoint, long stripCells)
+    : calculator_(calculator), inputs_(inputs), cellType_(cellType), processors_(processors),
+      checkpoint_(std::move(checkpoint)), stripCells_(stripCells)
+{
+}
+
+ImageCalculationInputs StripCalculator::withImages(std::vector<const Raster*> images) const
+{
+    return ImageCalculationInputs{std::move(images), inputs_.values, inputs_.tables};
+}
+
+bool StripCalculator::allWhole() const
+{
+    return std::all_of(inputs_.images.begin(), inputs_.images.end(),
+                       [](const RasterSource* image) { return !image || image->getWhole(); });
+}
+
+Raster StripCalculator::makeHeader() const
+{
+    std::vector<const Raster*> headers;
+    for (const RasterSource* image : inputs_.images)
+        headers.push_back(image ? &image->getHeader() : nullptr);
+    return calculator_.makeResult(withImages(headers), cellType_, 0, 0);
+}
+
+Raster StripCalculator::calculateWhole() const
+{
+    if (allWhole()) {
+        std::vector<const Raster*> wholes;
+        for (const RasterSource* image : inputs_.images)
+            wholes.push_back(image ? image->getWhole() : nullptr);
+        return calculator_.calculate(withImages(wholes), cellType_, processors_, checkpoint_);
+    }
+    const Raster header = makeHeader();
+    Raster result = Raster::stripOf(header, 0, header.getLineCount());
+    forEachStrip([&](int firstLine, int endLine, const ImageCalculationInputs& strips) {
+        calculator_.calculateLines(strips, firstLine, endLine, result, processors_, checkpoint_);
+    });
+    return result;
+}
+
+void StripCalculator::calculateStrips(const Sink& sink) const
+{
+    const Raster header = makeHeader();
+    forEachStrip([&](int firstLine, int endLine, const ImageCalculationInputs& strips) {
+        Raster strip = Raster::stripOf(header, firstLine, endLine);
+        calculator_.calculateLines(strips, firstLine, endLine, strip, processors_, checkpoint_);
+        sink(strip);
+    });
+}
+
+void StripCalculator::forEachStrip(const Body& body) const
+{
+    const Raster header = makeHeader();
+    std::vector<const Raster*> headers;
+    for (const RasterSource* image : inputs_.images)
+        headers.push_back(image ? &image->getHeader() : nullptr);
+    const LineReach reach = calculator_.getReach(withImages(headers));
+    const int lines = header.getLineCount();
+    const int tileLines = ImageCalculator::getTileLines(header.getColumnCount());
+    const long tiles =
+        std::max(1L, stripCells_ / (long(tileLines) * std::max(1, header.getColumnCount())));
+    const int stripLines =
+        reach.whole ? std::max(1, lines) : int(std::min<long>(lines, tiles * tileLines));
+    for (int firstLine = 0; firstLine < lines; firstLine += stripLines) {
+        const int endLine = std::min(lines, firstLine + stripLines);
+        const int top = std::max(0, firstLine - reach.above);
+        const int bottom = int(std::min<long>(lines, long(endLine) + reach.below));
+        // A map named twice (i1 and #image alike) is read once per strip.
+        std::map<const RasterSource*, Raster> read;
+        std::vector<const Raster*> strips;
+        for (const RasterSource* image : inputs_.images) {
+            if (!image || image->getWhole()) {
+                strips.push_back(image ? image->getWhole() : nullptr);
+                continue;
+            }
+            auto found = read.find(image);
+            if (found == read.end())
+                found = read.emplace(image, image->readLines(top, bottom)).first;
+            strips.push_back(&found->second);
+        }
+        body(firstLine, endLine, withImages(strips));
+    }
+}
+
+} // namespace Tessaly
