@@ -13,11 +13,38 @@
 #include "python/PythonErrors.h"
 
 #include <algorithm>
+#include <cctype>
+#include <cstdint>
 #include <mutex>
+#include <optional>
 
 namespace py = pybind11;
 
 namespace {
+
+// The memory budget as the command line takes it: bytes, or a number followed by K, M,
+// G or T (powers of 1024, an optional B after them); None keeps the budget in force.
+std::optional<std::uint64_t> memoryOf(const py::object& memory)
+{
+    if (memory.is_none())
+        return std::nullopt;
+    if (py::isinstance<py::int_>(memory) && memory.cast<long long>() >= 0)
+        return memory.cast<std::uint64_t>();
+    const std::string text = py::isinstance<py::str>(memory) ? memory.cast<std::string>() : "";
+    std::size_t end = 0;
+    while (end < text.size() && std::isdigit(static_cast<unsigned char>(text[end])))
+        ++end;
+    std::string unit = text.substr(end);
+    if (!unit.empty() && std::toupper(static_cast<unsigned char>(unit.back())) == 'B')
+        unit.pop_back();
+    const std::string units = "KMGT";
+    const std::size_t power = unit.empty() ? 0 : units.find(char(std::toupper(unit[0]))) + 1;
+    const bool badUnit = unit.size() > 1 || (!unit.empty() && power == 0);
+    if (end == 0 || end > 15 || badUnit)
+        throw py::value_error("The memory \"" + py::str(memory).cast<std::string>()
+                              + "\" is neither a number of bytes nor one such as 64M or 1G.");
+    return std::stoull(text.substr(0, end)) << (10 * power);
+}
 
 // The value text of a Python value, as a script would give it.
 std::string valueText(const py::object& value)
@@ -109,9 +136,7 @@ void PythonScript::run(const std::string& scheduler, unsigned int processors,
     if (std::find(schedulers.begin(), schedulers.end(), scheduler) == schedulers.end())
         throw py::value_error("\"" + scheduler + "\" is not a scheduler (auto, parallel, "
                               "sequential).");
-    if (!memory.is_none())
-        throw py::value_error("This build of vrk keeps every map in memory: it takes no "
-                              "memory budget.");
+    const std::optional<std::uint64_t> budget = memoryOf(memory);
     const BackgroundCall::Deliver deliver = deliverTo(log);
     std::unique_lock<std::mutex> turn(runTurns(), std::defer_lock);
     {
@@ -126,7 +151,7 @@ void PythonScript::run(const std::string& scheduler, unsigned int processors,
         [&] {
             VRK::Logger::getCurrentThreadLogger()->setMainFilter(
                 std::make_shared<VRK::LogFilterHigherTags>(level));
-            outcome = session_->run(task, scheduler, processors);
+            outcome = session_->run(task, scheduler, processors, budget);
         },
         [&task] { task.cancel(); }, *lines, deliver);
     if (outcome == ScriptSession::Outcome::Failed)

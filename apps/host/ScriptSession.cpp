@@ -19,6 +19,7 @@
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "base/task/TaskCancellation.h"
+#include "tessaly/raster/MemoryBudget.h"
 
 #include <map>
 
@@ -137,7 +138,8 @@ std::vector<std::string> ScriptSession::getSchedulerChoices()
 }
 
 ScriptSession::Outcome ScriptSession::run(VRK::Task& task, const std::string& scheduler,
-                                          std::optional<unsigned int> processors)
+                                          std::optional<unsigned int> processors,
+                                          std::optional<std::uint64_t> memory)
 {
     const auto schedulerName = schedulerNames().find(scheduler);
     if (schedulerName == schedulerNames().end())
@@ -149,9 +151,14 @@ ScriptSession::Outcome ScriptSession::run(VRK::Task& task, const std::string& sc
     const unsigned int processorCount = processor.getProcessorCount();
     if (processors)
         processor.setProcessorCount(*processors);
+    Tessaly::MemoryBudget& budget = Tessaly::MemoryBudget::getInstance();
+    const std::size_t budgetLimit = budget.getLimit();
+    if (memory)
+        budget.setLimit(std::size_t(*memory));
     const Outcome outcome = runUnder(task, schedulerName->second);
     logger->setMainFilter(filter);
     processor.setProcessorCount(processorCount);
+    budget.setLimit(budgetLimit);
     return outcome;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/util/LineBuffer.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -49,10 +50,12 @@ public:
 
     // Runs the script under `task` through the scheduler named "sequential",
     // "parallel" or "auto", with `processors` processors when given (0: every hardware
-    // thread). The calling thread's log filter and the processor count are what they
-    // were afterwards, whatever the outcome. A failure is kept for getFailure.
+    // thread), and `memory` bytes for the maps held whole when given. The calling
+    // thread's log filter, the processor count and the memory budget are what they were
+    // afterwards, whatever the outcome. A failure is kept for getFailure.
     Outcome run(VRK::Task& task, const std::string& scheduler,
-                std::optional<unsigned int> processors);
+                std::optional<unsigned int> processors,
+                std::optional<std::uint64_t> memory = std::nullopt);
     // The error of the last run that failed, laid on the functor that failed.
     const std::optional<HostError>& getFailure() const { return failure_; }
 

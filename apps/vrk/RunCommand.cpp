@@ -70,7 +70,7 @@ int RunCommand::run(const Options& options, std::ostream& err)
     // SIGINT and SIGTERM cancel the task.
     VRK::Task task;
     InterruptGuard interrupt(task);
-    switch (session->run(task, options.scheduler, options.processors)) {
+    switch (session->run(task, options.scheduler, options.processors, options.memory)) {
     case ScriptSession::Outcome::Failed:
         diagnostics.print(*session->getFailure());
         return 1;

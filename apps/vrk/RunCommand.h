@@ -1,6 +1,7 @@
 #ifndef VRK_APPS_VRK_RUNCOMMAND_H
 #define VRK_APPS_VRK_RUNCOMMAND_H
 
+#include <cstdint>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -17,6 +18,8 @@ public:
         std::string scheduler = "auto";
         // The processor count for the run; 0 for every hardware thread.
         std::optional<unsigned int> processors;
+        // The bytes that maps may hold in memory; beyond, they go to temporary files.
+        std::optional<std::uint64_t> memory;
         // "alias.port=VALUE" assignments, applied after the parameter file.
         std::vector<std::string> assignments;
         std::string parameterFile;

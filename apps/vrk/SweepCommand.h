@@ -19,7 +19,8 @@ public:
         std::string out = "runs";
         // Skips the runs that the summary says succeeded.
         bool resume = false;
-        // Passed on to every run.
+        // Passed on to every run: the memory budget in bytes, empty for the default.
+        std::string memory;
         std::string logLevel;
         std::string pluginDir;
     };

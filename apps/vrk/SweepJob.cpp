@@ -11,6 +11,8 @@ SweepJob SweepJob::of(const SweepCommand::Options& options, const SweepTable::Ro
     if (!options.pluginDir.empty())
         job.arguments.insert(job.arguments.end(), {"--plugin-dir", options.pluginDir});
     job.arguments.insert(job.arguments.end(), {"run", options.model, "--workdir", job.folder});
+    if (!options.memory.empty())
+        job.arguments.insert(job.arguments.end(), {"--memory", options.memory});
     for (const auto& parameter : row.parameters)
         job.arguments.insert(job.arguments.end(), {"--set", parameter.alias + "." + parameter.port
                                                                 + "=" + parameter.value});

@@ -88,6 +88,10 @@ int runCommandLine(int argc, char** argv)
     run->add_option("--processors", runOptions.processors,
                     "Processors the run may use (0: every hardware thread)")
         ->check(CLI::NonNegativeNumber);
+    run->add_option("--memory", runOptions.memory,
+                    "Memory that maps may hold, as 64M, 1G or bytes (default: half the "
+                    "physical memory); larger maps go to temporary files")
+        ->transform(CLI::AsSizeValue(false));
     run->add_option("--set", runOptions.assignments, "Set an input: alias.port=VALUE")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
@@ -103,6 +107,8 @@ int runCommandLine(int argc, char** argv)
         ->required();
     sweep->add_option("--jobs", sweepOptions.jobs, "Runs at a time (default: processor count)")
         ->check(CLI::PositiveNumber);
+    sweep->add_option("--memory", sweepOptions.memory, "Memory budget of maps in each run")
+        ->transform(CLI::AsSizeValue(false));
     sweep->add_option("--out", sweepOptions.out, "Folder of the runs (default runs)");
     sweep->add_flag("--resume", sweepOptions.resume, "Skip the runs that succeeded before");
     commands.push_back({sweep, [&] {

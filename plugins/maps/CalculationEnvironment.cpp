@@ -66,7 +66,7 @@ void CalculationEnvironment::addValue(const std::string& name, double value)
 }
 
 void CalculationEnvironment::addMap(const std::string& name,
-                                    const std::shared_ptr<const Tessaly::Raster>& map)
+                                    const std::shared_ptr<const Tessaly::RasterSource>& map)
 {
     add(maps_, name, map);
 }
@@ -86,11 +86,11 @@ void CalculationEnvironment::add(std::map<std::string, T>& entities, const std::
             VRK::EnvironmentUtils::duplicateKeyMessage(name));
 }
 
-Tessaly::ImageCalculationInputs
+Tessaly::SourceCalculationInputs
 CalculationEnvironment::flatten(const Tessaly::TopLevelImageExpression& expression) const
 {
     assert(expression.isCompiled() && "expression.isCompiled()");
-    Tessaly::ImageCalculationInputs inputs;
+    Tessaly::SourceCalculationInputs inputs;
     inputs.images = flattenEntities(maps_, expression, Tessaly::EntityKind::Image);
     inputs.tables = flattenEntities(tables_, expression, Tessaly::EntityKind::Table);
     Prim::PrimEnvironmentUtils::flattenValueEnvironment(

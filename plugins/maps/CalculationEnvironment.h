@@ -4,8 +4,8 @@
 #include "base/graph/ContainerFunctor.h"
 #include "tessaly/images/ImageCalculator.h"
 #include "tessaly/images/LookupTable.h"
-#include "tessaly/images/Raster.h"
 #include "tessaly/images/TopLevelImageExpression.h"
+#include "tessaly/raster/StripCalculator.h"
 
 #include <map>
 #include <memory>
@@ -25,14 +25,14 @@ public:
 
     void addValue(const std::string& name, double value);
 
-    void addMap(const std::string& name, const std::shared_ptr<const Tessaly::Raster>& map);
+    void addMap(const std::string& name, const std::shared_ptr<const Tessaly::RasterSource>& map);
     void addTable(const std::string& name,
                   const std::shared_ptr<const Tessaly::LookupTable>& table);
 
     // What `expression` reads, in the order of its dictionary. Fails when it names
     // anything not registered, or numbers of a kind with a gap. The lists point into
     // this environment.
-    Tessaly::ImageCalculationInputs
+    Tessaly::SourceCalculationInputs
     flatten(const Tessaly::TopLevelImageExpression& expression) const;
 
     // Whether the container may hold `functor`: a registrator of values, maps or tables.
@@ -47,7 +47,7 @@ private:
     static void add(std::map<std::string, T>& entities, const std::string& name, const T& entity);
 
     std::map<std::string, double> values_;
-    std::map<std::string, std::shared_ptr<const Tessaly::Raster>> maps_;
+    std::map<std::string, std::shared_ptr<const Tessaly::RasterSource>> maps_;
     std::map<std::string, std::shared_ptr<const Tessaly::LookupTable>> tables_;
 };
 

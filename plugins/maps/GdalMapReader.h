@@ -2,6 +2,7 @@
 #define VRK_PLUGINS_MAPS_GDALMAPREADER_H
 
 #include "tessaly/images/Raster.h"
+#include "tessaly/raster/RasterSource.h"
 
 #include <boost/filesystem/path.hpp>
 
@@ -14,6 +15,9 @@ namespace Maps {
 // unsigned 32-bit and 64-bit integers Float64.
 class GdalMapReader {
 public:
+    // The map opened, its cells read when they are asked for.
+    static std::shared_ptr<const Tessaly::RasterSource> open(const boost::filesystem::path& file);
+    // Every cell read at once.
     static std::shared_ptr<const Tessaly::Raster> read(const boost::filesystem::path& file);
 };
 

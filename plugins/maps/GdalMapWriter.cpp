@@ -5,13 +5,13 @@
 #include "base/script/AtomicFileWriter.h"
 #include "base/task/Task.h"
 #include "plugins/maps/GdalUtils.h"
+#include "plugins/maps/SourceDataset.h"
 
 #include <boost/filesystem/operations.hpp>
 #include <cpl_string.h>
-#include <cpl_vsi.h>
 #include <gdal_priv.h>
 
-#include <atomic>
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -39,27 +39,14 @@ Format formatOf(const boost::filesystem::path& file, Tessaly::CellType cellType)
           "(\".asc\") files are written.");
 }
 
-GDALDataType gdalTypeOf(Tessaly::CellType cellType)
-{
-    switch (cellType) {
-    case Tessaly::CellType::Int32:
-        return GDT_Int32;
-    case Tessaly::CellType::Float32:
-        return GDT_Float32;
-    case Tessaly::CellType::Float64:
-        break;
-    }
-    return GDT_Float64;
-}
-
 // A dataset in memory that lends the raster's cells, with its grid and NoData.
 std::unique_ptr<GDALDataset> inMemory(const Tessaly::Raster& raster,
                                       const boost::filesystem::path& file)
 {
     GDALDriver* memory = GetGDALDriverManager()->GetDriverByName("MEM");
     const Tessaly::Grid& grid = raster.getGrid();
-    std::unique_ptr<GDALDataset> dataset(
-        memory->Create("", grid.columns, grid.lines, 0, gdalTypeOf(raster.getCellType()), nullptr));
+    std::unique_ptr<GDALDataset> dataset(memory->Create(
+        "", grid.columns, grid.lines, 0, GdalUtils::gdalTypeOf(raster.getCellType()), nullptr));
     if (!dataset)
         GdalUtils::fail(file, "written");
     // The copy made from this dataset only reads the cells it lends.
@@ -67,7 +54,7 @@ std::unique_ptr<GDALDataset> inMemory(const Tessaly::Raster& raster,
     CPLPrintPointer(address, const_cast<void*>(raster.rawCells()), sizeof(address));
     const std::string data = std::string("DATAPOINTER=") + address;
     const char* options[] = {data.c_str(), nullptr};
-    dataset->AddBand(gdalTypeOf(raster.getCellType()), const_cast<char**>(options));
+    dataset->AddBand(GdalUtils::gdalTypeOf(raster.getCellType()), const_cast<char**>(options));
     double transform[6];
     std::copy(grid.geoTransform.begin(), grid.geoTransform.end(), transform);
     dataset->SetGeoTransform(transform);
@@ -78,64 +65,65 @@ std::unique_ptr<GDALDataset> inMemory(const Tessaly::Raster& raster,
     return dataset;
 }
 
-// A folder of its own in the library's memory file system, removed with the object.
-class MemoryFolder {
-public:
-    MemoryFolder()
-    {
-        static std::atomic<unsigned long> counter{0};
-        folder_ = "/vsimem/vrk_map_" + std::to_string(++counter);
-    }
-    ~MemoryFolder() { VSIRmdirRecursive(folder_.c_str()); }
-    MemoryFolder(const MemoryFolder&) = delete;
-    MemoryFolder& operator=(const MemoryFolder&) = delete;
-
-    std::string file(const std::string& name) const { return folder_ + "/" + name; }
-
-private:
-    std::string folder_;
-};
-
-bool copyOut(const std::string& memoryFile, const boost::filesystem::path& target)
+// The library names an ASCII grid's projection file after the grid; the one written
+// beside the temporary file goes beside the target, and an old one must not outlive a
+// map written without projection.
+void placeProjection(const boost::filesystem::path& temporary, const boost::filesystem::path& file)
 {
-    vsi_l_offset length = 0;
-    const GByte* bytes = VSIGetMemFileBuffer(memoryFile.c_str(), &length, FALSE);
-    if (bytes == nullptr)
-        return false;
-    VRK::AtomicFileWriter::write(target, [&](std::ostream& out) {
-        out.write(reinterpret_cast<const char*>(bytes), std::streamsize(length));
-    });
-    return true;
+    boost::filesystem::path written = temporary;
+    written.replace_extension(".prj");
+    boost::filesystem::path projection = file;
+    projection.replace_extension(".prj");
+    boost::system::error_code error;
+    if (boost::filesystem::exists(written, error))
+        boost::filesystem::rename(written, projection);
+    else
+        boost::filesystem::remove(projection);
+}
+
+// A map held whole is lent to the library as it is; any other is read by strips as
+// the library copies it.
+std::unique_ptr<GDALDataset> datasetOf(const Tessaly::RasterSource& map,
+                                       const boost::filesystem::path& file)
+{
+    if (const Tessaly::Raster* whole = map.getWhole())
+        return inMemory(*whole, file);
+    return std::make_unique<SourceDataset>(map);
 }
 
 } // namespace
 
-void GdalMapWriter::write(const Tessaly::Raster& raster, const boost::filesystem::path& file)
+void GdalMapWriter::write(const Tessaly::RasterSource& map, const boost::filesystem::path& file,
+                          int processors)
 {
     GdalUtils::registerFormats();
-    const Format format = formatOf(file, raster.getCellType());
+    Format format = formatOf(file, map.getHeader().getCellType());
+    if (format.driver == std::string("GTiff"))
+        format.options.push_back("NUM_THREADS=" + std::to_string(std::max(1, processors)));
     CPLErrorReset();
-    std::unique_ptr<GDALDataset> source = inMemory(raster, file);
-    MemoryFolder folder;
-    const std::string encoded = folder.file("map" + file.extension().string());
+    std::unique_ptr<GDALDataset> source = datasetOf(map, file);
     CPLStringList options;
     for (const std::string& option : format.options)
         options.AddString(option.c_str());
     GDALDriver* driver = GetGDALDriverManager()->GetDriverByName(format.driver);
-    std::unique_ptr<GDALDataset> copy(
-        driver->CreateCopy(encoded.c_str(), source.get(), FALSE, options.List(), nullptr, nullptr));
-    if (!copy)
-        GdalUtils::fail(file, "written");
-    copy.reset();
-    if (const VRK::Task* task = VRK::Task::getCurrentTask())
-        task->checkCancellation();
-    if (!copyOut(encoded, file))
-        GdalUtils::fail(file, "written");
-    // An ASCII grid keeps its projection beside it; an old one must not outlive it.
-    boost::filesystem::path projection = file;
-    projection.replace_extension(".prj");
-    if (format.driver == std::string("AAIGrid") && !copyOut(folder.file("map.prj"), projection))
-        boost::filesystem::remove(projection);
+    // Encoded straight into the temporary file, compressed on every processor given,
+    // so that no second copy of the map is held in memory.
+    VRK::AtomicFileWriter::writeFile(file, [&](const boost::filesystem::path& temporary) {
+        std::unique_ptr<GDALDataset> copy(driver->CreateCopy(
+            temporary.string().c_str(), source.get(), FALSE, options.List(), nullptr, nullptr));
+        if (auto* lines = dynamic_cast<SourceDataset*>(source.get()))
+            lines->rethrowFailure();
+        if (!copy)
+            GdalUtils::fail(file, "written");
+        // Errors of the last blocks show only when the file is closed.
+        copy.reset();
+        if (CPLGetLastErrorType() == CE_Failure)
+            GdalUtils::fail(file, "written");
+        if (const VRK::Task* task = VRK::Task::getCurrentTask())
+            task->checkCancellation();
+        if (format.driver == std::string("AAIGrid"))
+            placeProjection(temporary, file);
+    });
 }
 
 const std::set<std::string>& GdalMapWriter::getExtensions()

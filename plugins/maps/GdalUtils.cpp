@@ -2,10 +2,12 @@
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/UnableToAccessFileException.h"
+#include "tessaly/raster/MemoryBudget.h"
 
 #include <cpl_error.h>
 #include <gdal.h>
 
+#include <algorithm>
 #include <mutex>
 
 namespace Maps {
@@ -18,6 +20,12 @@ void GdalUtils::registerFormats()
     std::call_once(registered, [] {
         GDALAllRegister();
         CPLSetErrorHandler(CPLQuietErrorHandler);
+        // The library's block cache sits beside the memory budget: a quarter of it, within
+        // room for one line of tiles of a wide map being compressed and a cap that keeps
+        // it small beside the maps.
+        const std::size_t budget = Tessaly::MemoryBudget::getInstance().getLimit();
+        const std::size_t mebibyte = std::size_t(1) << 20;
+        GDALSetCacheMax64(GIntBig(std::min(128 * mebibyte, std::max(48 * mebibyte, budget / 4))));
     });
 }
 
@@ -32,8 +40,27 @@ std::string GdalUtils::lastError()
 
 void GdalUtils::fail(const boost::filesystem::path& file, const std::string& problem)
 {
+    // The library reports an allocation that failed as its own error, which must not
+    // read as a fault of the file.
+    if (CPLGetLastErrorNo() == CPLE_OutOfMemory)
+        VRK::ExceptionUtils::raise<VRK::UnableToAccessFileException>(
+            "Memory ran out before the map file \"" + file.string() + "\" could be " + problem
+            + lastError() + ".");
     VRK::ExceptionUtils::raise<VRK::UnableToAccessFileException>(
         "The map file \"" + file.string() + "\" can not be " + problem + lastError() + ".");
+}
+
+GDALDataType GdalUtils::gdalTypeOf(Tessaly::CellType cellType)
+{
+    switch (cellType) {
+    case Tessaly::CellType::Int32:
+        return GDT_Int32;
+    case Tessaly::CellType::Float32:
+        return GDT_Float32;
+    case Tessaly::CellType::Float64:
+        break;
+    }
+    return GDT_Float64;
 }
 
 } // namespace Maps

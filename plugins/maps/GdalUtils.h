@@ -1,7 +1,10 @@
 #ifndef VRK_PLUGINS_MAPS_GDALUTILS_H
 #define VRK_PLUGINS_MAPS_GDALUTILS_H
 
+#include "tessaly/images/Raster.h"
+
 #include <boost/filesystem/path.hpp>
+#include <gdal.h>
 
 #include <string>
 
@@ -17,6 +20,8 @@ public:
     static std::string lastError();
     // Fails with "The map file "FILE" can not be PROBLEM" and the last error.
     [[noreturn]] static void fail(const boost::filesystem::path& file, const std::string& problem);
+    // The library's type of cells of `cellType`.
+    static GDALDataType gdalTypeOf(Tessaly::CellType cellType);
 };
 
 } // namespace Maps

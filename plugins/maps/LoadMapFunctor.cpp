@@ -28,7 +28,7 @@ void LoadMap::runImpl()
 {
     const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireReadable(file);
-    setOutputPortValue<MapData>("map", GdalMapReader::read(file));
+    setOutputPortValue<MapData>("map", GdalMapReader::open(file));
 }
 
 } // namespace Maps

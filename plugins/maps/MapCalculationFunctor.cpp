@@ -1,15 +1,20 @@
 #include "plugins/maps/MapCalculationFunctor.h"
 
 #include "base/error/Exception.h"
+#include "base/error/ExceptionUtils.h"
 #include "base/run/ContainerFunctorUtils.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "plugins/maps/CalculationEnvironment.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapType.h"
+#include "plugins/maps/TemporaryMapFile.h"
 #include "plugins/prim/ImageExpressionData.h"
 #include "plugins/prim/ImageExpressionType.h"
 #include "tessaly/images/ImageCalculator.h"
+#include "tessaly/raster/MemoryBudget.h"
+#include "tessaly/raster/MemoryRasterSource.h"
+#include "tessaly/raster/StripCalculator.h"
 
 #include <cassert>
 
@@ -54,7 +59,7 @@ bool MapCalculationFunctor::isCompatible(VRK::Functor* functor) const
 void MapCalculationFunctor::runContainerImpl()
 {
     VRK::ContainerFunctorUtils::runFunctorsInContainer(*this, VRK::warning);
-    std::shared_ptr<const Tessaly::Raster> result;
+    std::shared_ptr<const Tessaly::RasterSource> result;
     try {
         result = calculate();
     } catch (VRK::Exception& error) {
@@ -67,7 +72,7 @@ void MapCalculationFunctor::runContainerImpl()
 // The shared formula is compiled in a copy, so that passes running at once never
 // write to it. The calculator refuses maps on different grids and a formula without a
 // map.
-std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
+std::shared_ptr<const Tessaly::RasterSource> MapCalculationFunctor::calculate()
 {
     Tessaly::TopLevelImageExpression expression =
         *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
@@ -75,16 +80,43 @@ std::shared_ptr<const Tessaly::Raster> MapCalculationFunctor::calculate()
     CalculationEnvironment environment(*this);
     if (namedImage_)
         environment.addMap(ImagePort, getInputPortValue<MapData>(ImagePort));
-    const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
+    const Tessaly::SourceCalculationInputs inputs = environment.flatten(expression);
     const VRK::Task* task = VRK::Task::getCurrentTask();
     const int processors = int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
     const std::function<void()> checkpoint = [task] {
         if (task)
             task->checkCancellation();
     };
-    return std::make_shared<const Tessaly::Raster>(
-        Tessaly::ImageCalculator(expression, checkpoint)
-            .calculate(inputs, cellType_, processors, checkpoint));
+    const Tessaly::ImageCalculator calculator(expression, checkpoint);
+    const Tessaly::StripCalculator strips(calculator, inputs, cellType_, processors, checkpoint);
+    const Tessaly::Raster header = strips.makeHeader();
+    try {
+        return keep(strips, header);
+    } catch (const std::bad_alloc&) {
+        VRK::ExceptionUtils::raise<VRK::Exception>(
+            "Memory ran out while calculating a map of " + header.getGrid().describe()
+            + "; a smaller --memory budget keeps more of the maps in temporary files.");
+    }
+}
+
+// In memory when the budget has room for the whole map, else in a temporary file.
+std::shared_ptr<const Tessaly::RasterSource>
+MapCalculationFunctor::keep(const Tessaly::StripCalculator& strips, const Tessaly::Raster& header)
+{
+    Tessaly::MemoryBudget& budget = Tessaly::MemoryBudget::getInstance();
+    const size_t bytes = header.getGridByteCount();
+    if (!budget.reserve(bytes)) {
+        TemporaryMapFile file(header);
+        strips.calculateStrips([&file](const Tessaly::Raster& strip) { file.write(strip); });
+        return file.finish();
+    }
+    try {
+        auto whole = std::make_shared<const Tessaly::Raster>(strips.calculateWhole());
+        return std::make_shared<const Tessaly::MemoryRasterSource>(whole, bytes);
+    } catch (...) {
+        budget.release(bytes);
+        throw;
+    }
 }
 
 } // namespace Maps

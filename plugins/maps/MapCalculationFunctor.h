@@ -2,8 +2,9 @@
 #define VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
-#include "tessaly/images/Raster.h"
 #include "tessaly/images/TopLevelImageExpression.h"
+#include "tessaly/raster/RasterSource.h"
+#include "tessaly/raster/StripCalculator.h"
 
 #include <memory>
 #include <string>
@@ -29,7 +30,9 @@ protected:
                           Tessaly::CellType cellType, bool namedImage);
 
 private:
-    std::shared_ptr<const Tessaly::Raster> calculate();
+    std::shared_ptr<const Tessaly::RasterSource> calculate();
+    static std::shared_ptr<const Tessaly::RasterSource> keep(const Tessaly::StripCalculator& strips,
+                                                             const Tessaly::Raster& header);
 
     Tessaly::CellType cellType_;
     bool namedImage_;

@@ -2,8 +2,8 @@
 
 namespace Maps {
 
-MapData::MapData(const std::shared_ptr<const Tessaly::Raster>& raster)
-    : VRK::Data<std::shared_ptr<const Tessaly::Raster>, VRK::NullType, VRK::NullType>(raster)
+MapData::MapData(const std::shared_ptr<const Tessaly::RasterSource>& map)
+    : VRK::Data<std::shared_ptr<const Tessaly::RasterSource>, VRK::NullType, VRK::NullType>(map)
 {
 }
 

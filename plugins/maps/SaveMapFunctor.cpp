@@ -1,5 +1,6 @@
 #include "plugins/maps/SaveMapFunctor.h"
 
+#include "base/task/ProcessorManager.h"
 #include "plugins/maps/GdalMapWriter.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapFileType.h"
@@ -26,10 +27,11 @@ SaveMap::~SaveMap() = default;
 
 void SaveMap::runImpl()
 {
-    const std::shared_ptr<const Tessaly::Raster>& map = getInputPortValue<MapData>("map");
+    const std::shared_ptr<const Tessaly::RasterSource>& map = getInputPortValue<MapData>("map");
     const boost::filesystem::path file = Prim::FilenamedFunctorUtils::getFile(*this);
     Prim::FilenamedFunctorVerifierAdapter::requireWritable(file);
-    GdalMapWriter::write(*map, file);
+    GdalMapWriter::write(*map, file,
+                         int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount()));
 }
 
 } // namespace Maps

@@ -33,7 +33,7 @@ constexpr size_t SliceKeys = 4096;
 
 std::shared_ptr<const Tessaly::LookupTable>
 evaluateForEachKey(const Tessaly::TopLevelImageExpression& expression,
-                   const Tessaly::ImageCalculationInputs& inputs, const Tessaly::LookupTable& keys)
+                   const Tessaly::SourceCalculationInputs& inputs, const Tessaly::LookupTable& keys)
 {
     const VRK::Task* task = VRK::Task::getCurrentTask();
     const std::vector<double> noImageValues;
@@ -107,7 +107,7 @@ std::shared_ptr<const Tessaly::LookupTable> TableCalculationFunctor::calculate()
         keys = getInputPortValue<Tessaly::LookupTableData>(TablePort);
         environment.addTable(TablePort, keys);
     }
-    const Tessaly::ImageCalculationInputs inputs = environment.flatten(expression);
+    const Tessaly::SourceCalculationInputs inputs = environment.flatten(expression);
     if (!namedTable_ && inputs.tables.empty())
         refuse(expression, "names no table, so there are no keys to calculate a table for.");
     return evaluateForEachKey(expression, inputs, keys ? *keys : *inputs.tables.front());

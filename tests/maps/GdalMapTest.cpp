@@ -1,6 +1,7 @@
 #include "plugins/maps/GdalMapReader.h"
 #include "plugins/maps/GdalMapWriter.h"
 #include "plugins/maps/GdalUtils.h"
+#include "tessaly/raster/MemoryRasterSource.h"
 
 #include "base/error/Exception.h"
 
@@ -132,20 +133,28 @@ TEST_F(GdalMapTest, ReadsEveryCellTypeWithGridAndNoData)
                     {-32768, -1, 0, 1, 32767, 2});
 }
 
+// Whether held in memory or read from its file by strips as it is written, a map
+// reads back with its cells, grid and NoData.
 TEST_F(GdalMapTest, WrittenMapsReadBackWithGridAndNoData)
 {
     const double noData = -9999;
     makeTiff(file("in.tif"), GDT_Float32, {0.1f, -9999, 2.5, 1e-7f, -3, 1e20f}, &noData);
     const auto map = Maps::GdalMapReader::read(file("in.tif"));
-    for (const char* name : {"out.tif", "out.tiff", "out.asc"}) {
-        Maps::GdalMapWriter::write(*map, file(name));
-        const auto back = Maps::GdalMapReader::read(file(name));
-        expectSameCells(valuesOf(*back), valuesOf(*map));
-        EXPECT_TRUE(back->hasNoData()) << name;
-        EXPECT_EQ(back->getNoData(), -9999) << name;
-        EXPECT_EQ(back->getGrid().geoTransform, map->getGrid().geoTransform) << name;
-        EXPECT_TRUE(sameProjection(back->getGrid().projection, geographicWkt())) << name;
-    }
+    const Tessaly::MemoryRasterSource inMemory(map);
+    const auto opened = Maps::GdalMapReader::open(file("in.tif"));
+    EXPECT_EQ(opened->getWhole(), nullptr);
+    for (const Tessaly::RasterSource* source :
+         {opened.get(), (const Tessaly::RasterSource*)&inMemory})
+        for (const char* name : {"out.tif", "out.tiff", "out.asc"}) {
+            SCOPED_TRACE(name);
+            Maps::GdalMapWriter::write(*source, file(name), 2);
+            const auto back = Maps::GdalMapReader::read(file(name));
+            expectSameCells(valuesOf(*back), valuesOf(*map));
+            EXPECT_TRUE(back->hasNoData());
+            EXPECT_EQ(back->getNoData(), -9999);
+            EXPECT_EQ(back->getGrid().geoTransform, map->getGrid().geoTransform);
+            EXPECT_TRUE(sameProjection(back->getGrid().projection, geographicWkt()));
+        }
     GDALDataset* tiff = static_cast<GDALDataset*>(GDALOpen(file("out.tif").c_str(), GA_ReadOnly));
     ASSERT_NE(tiff, nullptr);
     EXPECT_STREQ(tiff->GetMetadataItem("COMPRESSION", "IMAGE_STRUCTURE"), "DEFLATE");
@@ -167,7 +176,9 @@ TEST_F(GdalMapTest, AsciiGridWithoutProjectionDropsAnOldOne)
     raster.setValue(0, 0, -7);
     raster.setValue(0, 2, 2147483647);
     std::ofstream(file("grid.prj").string()) << "stale";
-    Maps::GdalMapWriter::write(raster, file("grid.asc"));
+    Maps::GdalMapWriter::write(
+        Tessaly::MemoryRasterSource(std::make_shared<Tessaly::Raster>(raster)), file("grid.asc"),
+        1);
     EXPECT_EQ(files(), (std::set<std::string>{"grid.asc"}));
     expectSameCells(valuesOf(*Maps::GdalMapReader::read(file("grid.asc"))), {-7, 0, 2147483647});
 }
@@ -178,7 +189,9 @@ TEST_F(GdalMapTest, RefusalsNameTheFile)
     grid.lines = grid.columns = 1;
     const Tessaly::Raster raster(grid, Tessaly::CellType::Float32);
     try {
-        Maps::GdalMapWriter::write(raster, file("map.png"));
+        Maps::GdalMapWriter::write(
+            Tessaly::MemoryRasterSource(std::make_shared<Tessaly::Raster>(raster)), file("map.png"),
+            1);
         ADD_FAILURE() << "a PNG was written";
     } catch (const VRK::Exception& error) {
         EXPECT_EQ(std::string(error.what()),

@@ -54,9 +54,8 @@ protected:
         VRK::Task task;
         script.run(task, "SequentialFunctorScheduler");
     }
-    static std::shared_ptr<const Tessaly::Raster> map(const VRK::Script& script,
-                                                      const std::string& alias,
-                                                      const std::string& port)
+    static std::shared_ptr<const Tessaly::RasterSource>
+    map(const VRK::Script& script, const std::string& alias, const std::string& port)
     {
         const VRK::Functor* functor = script.findFunctorByAlias(alias);
         EXPECT_NE(functor, nullptr) << alias;
@@ -99,8 +98,9 @@ TEST_F(MapFunctors, MapsArePassedOnNotCopied)
     EXPECT_EQ(map(*script, "state", "map"), loaded);
     const auto doubled = map(*script, "c", "result");
     EXPECT_NE(doubled, loaded);
-    EXPECT_EQ(doubled->getValue(1, 1), 8);
-    EXPECT_EQ(doubled->getCellType(), Tessaly::CellType::Float32);
+    ASSERT_NE(doubled->getWhole(), nullptr);
+    EXPECT_EQ(doubled->getWhole()->getValue(1, 1), 8);
+    EXPECT_EQ(doubled->getHeader().getCellType(), Tessaly::CellType::Float32);
 }
 
 TEST_F(MapFunctors, CalculationsHoldOnlyRegistratorsAndRefuseAClashWithTheirPort)

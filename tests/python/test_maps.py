@@ -131,3 +131,17 @@ def test_a_map_shows_as_a_png_of_grey_levels_with_null_cells_transparent():
     assert alpha.tolist() == [[255, 255, 255], [0, 255, 0]]
     _, grey, alpha = png_pixels(vrk.Map.from_array(np.full((2, 2), 7))._repr_png_())
     assert (grey == 0).all() and (alpha == 255).all()
+
+
+def test_a_budget_too_small_for_any_map_spills_them_and_changes_no_cell(town):
+    script = vrk.Script(str(town))
+    script.set("years.lastIterationStep", 3)
+    script.run(log_level=".warning")
+    whole = script.output("grown.result").to_array().copy()
+    script.run(log_level=".warning", memory="1K")
+    assert np.array_equal(script.output("grown.result").to_array(), whole)
+    script.run(log_level=".warning", memory=1 << 30)
+    assert np.array_equal(script.output("grown.result").to_array(), whole)
+    for wrong in ["lots", "12Q", "-5", -5, 1.5]:
+        with pytest.raises(ValueError, match="neither a number of bytes"):
+            script.run(memory=wrong)
