@@ -28,6 +28,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
+here=$(cd "$(dirname "$0")" && pwd)
 vrk="$(cd "$build" && pwd)/bin/vrk"
 if [ -z "$folder" ]; then
     folder=$(mktemp -d)
@@ -54,17 +55,7 @@ measure() {
 echo "maps of $size x $size Float32 cells, --memory $budget, $processors processors"
 gdal_create -q -of GTiff -outsize "$size" "$size" -ot Float32 -burn 0 -a_nodata -9999 \
     -co TILED=YES -co COMPRESS=DEFLATE -co BIGTIFF=YES empty.tif
-cat > make.vrk <<'SCRIPT'
-empty := LoadMap filename = "empty.tif";
-a := CalculateMap expression = [ if (line * 7 + column * 3) % 20 = 0 then null(i1) else sin(line * 0.013) * 1000 + column % 97 - 40 ] {
-    NumberMap map = empty.map mapNumber = 1;
-}
-SaveMap map = a.result filename = "a.tif";
-b := CalculateMap expression = [ cos(column * 0.007) * 50 + line % 13 + i1 ] {
-    NumberMap map = empty.map mapNumber = 1;
-}
-SaveMap map = b.result filename = "b.tif";
-SCRIPT
+cp "$here/big_map_inputs.vrk" make.vrk
 measure "making the inputs (vrk)" "$vrk" run make.vrk --memory "$budget" --processors "$processors"
 
 cat > if.vrk <<'SCRIPT'

@@ -55,13 +55,7 @@ std::unique_ptr<GDALDataset> inMemory(const Tessaly::Raster& raster,
     const std::string data = std::string("DATAPOINTER=") + address;
     const char* options[] = {data.c_str(), nullptr};
     dataset->AddBand(GdalUtils::gdalTypeOf(raster.getCellType()), const_cast<char**>(options));
-    double transform[6];
-    std::copy(grid.geoTransform.begin(), grid.geoTransform.end(), transform);
-    dataset->SetGeoTransform(transform);
-    if (!grid.projection.empty())
-        dataset->SetProjection(grid.projection.c_str());
-    if (raster.hasNoData())
-        dataset->GetRasterBand(1)->SetNoDataValue(raster.getNoData());
+    GdalUtils::describe(*dataset, raster);
     return dataset;
 }
 

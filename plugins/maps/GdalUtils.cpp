@@ -5,7 +5,7 @@
 #include "tessaly/raster/MemoryBudget.h"
 
 #include <cpl_error.h>
-#include <gdal.h>
+#include <gdal_priv.h>
 
 #include <algorithm>
 #include <mutex>
@@ -48,6 +48,18 @@ void GdalUtils::fail(const boost::filesystem::path& file, const std::string& pro
             + lastError() + ".");
     VRK::ExceptionUtils::raise<VRK::UnableToAccessFileException>(
         "The map file \"" + file.string() + "\" can not be " + problem + lastError() + ".");
+}
+
+void GdalUtils::describe(GDALDataset& dataset, const Tessaly::Raster& map)
+{
+    const Tessaly::Grid& grid = map.getGrid();
+    double transform[6];
+    std::copy(grid.geoTransform.begin(), grid.geoTransform.end(), transform);
+    dataset.SetGeoTransform(transform);
+    if (!grid.projection.empty())
+        dataset.SetProjection(grid.projection.c_str());
+    if (map.hasNoData())
+        dataset.GetRasterBand(1)->SetNoDataValue(map.getNoData());
 }
 
 GDALDataType GdalUtils::gdalTypeOf(Tessaly::CellType cellType)

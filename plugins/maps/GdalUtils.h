@@ -6,6 +6,8 @@
 #include <boost/filesystem/path.hpp>
 #include <gdal.h>
 
+class GDALDataset;
+
 #include <string>
 
 namespace Maps {
@@ -20,6 +22,8 @@ public:
     static std::string lastError();
     // Fails with "The map file "FILE" can not be PROBLEM" and the last error.
     [[noreturn]] static void fail(const boost::filesystem::path& file, const std::string& problem);
+    // Gives a dataset of one band the grid (transform, projection) and NoData of `map`.
+    static void describe(GDALDataset& dataset, const Tessaly::Raster& map);
     // The library's type of cells of `cellType`.
     static GDALDataType gdalTypeOf(Tessaly::CellType cellType);
 };

@@ -29,13 +29,7 @@ TemporaryMapFile::TemporaryMapFile(const Tessaly::Raster& header)
                                   GdalUtils::gdalTypeOf(header.getCellType()), options.List()));
     if (!dataset_)
         fail();
-    double transform[6];
-    std::copy(grid.geoTransform.begin(), grid.geoTransform.end(), transform);
-    dataset_->SetGeoTransform(transform);
-    if (!grid.projection.empty())
-        dataset_->SetProjection(grid.projection.c_str());
-    if (header.hasNoData())
-        dataset_->GetRasterBand(1)->SetNoDataValue(header.getNoData());
+    GdalUtils::describe(*dataset_, header);
 }
 
 TemporaryMapFile::~TemporaryMapFile()
