@@ -12,8 +12,10 @@
 #include "python/PythonErrors.h"
 #include "tessaly/images/DefaultImageExpressionReader.h"
 #include "tessaly/images/ImageCalculator.h"
+#include "tessaly/raster/StripCalculator.h"
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <sstream>
@@ -65,9 +67,9 @@ Maps::CalculationEnvironment environmentOf(const py::args& images, const py::dic
 {
     Maps::CalculationEnvironment environment;
     for (size_t i = 0; i < images.size(); ++i)
-        environment.addMap("i" + std::to_string(i + 1), MapAdapter::of(images[i]).shareRaster());
+        environment.addMap("i" + std::to_string(i + 1), MapAdapter::of(images[i]).getSource());
     for (const auto& map : maps)
-        environment.addMap(map.first.cast<std::string>(), MapAdapter::of(map.second).shareRaster());
+        environment.addMap(map.first.cast<std::string>(), MapAdapter::of(map.second).getSource());
     for (const auto& value : values)
         environment.addValue(keyOf(value.first, "v"), value.second.cast<double>());
     for (const auto& table : tables)
@@ -100,7 +102,7 @@ py::array FormulaCalculator::calculate(const std::string& formula, const py::arg
     std::optional<Tessaly::Raster> result;
     try {
         const Maps::CalculationEnvironment environment = environmentOf(images, values, tables, maps);
-        const Tessaly::ImageCalculationInputs flattened = environment.flatten(*expression);
+        const Tessaly::SourceCalculationInputs flattened = environment.flatten(*expression);
         const int threads = int(processors != 0
                                     ? processors
                                     : VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
@@ -111,9 +113,11 @@ py::array FormulaCalculator::calculate(const std::string& formula, const py::arg
         LogQueue none;
         BackgroundCall::run(
             [&] {
-                result.emplace(Tessaly::ImageCalculator(*expression)
-                                   .calculate(flattened, cellType, threads,
-                                              [&task] { task.checkCancellation(); }));
+                const std::function<void()> checkpoint = [&task] { task.checkCancellation(); };
+                const Tessaly::ImageCalculator calculator(*expression, checkpoint);
+                result.emplace(
+                    Tessaly::StripCalculator(calculator, flattened, cellType, threads, checkpoint)
+                        .calculateWhole());
                 if (!categorical)
                     markNullsAsNaN(*result);
             },

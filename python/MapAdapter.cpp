@@ -3,6 +3,9 @@
 #include "plugins/maps/GdalMapReader.h"
 #include "plugins/maps/GdalMapWriter.h"
 
+#include "base/task/ProcessorManager.h"
+#include "tessaly/raster/MemoryRasterSource.h"
+
 #include <pybind11/stl.h>
 
 #include <cmath>
@@ -121,8 +124,8 @@ py::array lend(const Tessaly::Raster& raster, KeeperT keeper, bool writeable)
 MapAdapter::MapAdapter(std::shared_ptr<const Maps::MapData> data) : data_(std::move(data)) {}
 
 MapAdapter::MapAdapter(Tessaly::Raster&& raster)
-    : data_(std::make_shared<const Maps::MapData>(
-        std::make_shared<const Tessaly::Raster>(std::move(raster))))
+    : data_(std::make_shared<const Maps::MapData>(std::make_shared<const Tessaly::MemoryRasterSource>(
+        std::make_shared<const Tessaly::Raster>(std::move(raster)))))
 {
 }
 
@@ -144,12 +147,24 @@ MapAdapter MapAdapter::of(const py::handle& arrayOrMap)
 
 MapAdapter MapAdapter::load(const std::string& path)
 {
-    return MapAdapter(std::make_shared<const Maps::MapData>(Maps::GdalMapReader::read(path)));
+    return MapAdapter(std::make_shared<const Maps::MapData>(Maps::GdalMapReader::open(path)));
 }
 
-void MapAdapter::save(const std::string& path) const { Maps::GdalMapWriter::write(getRaster(), path); }
+void MapAdapter::save(const std::string& path) const
+{
+    const auto processors = int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount());
+    Maps::GdalMapWriter::write(*getSource(), path, processors);
+}
 
-py::array MapAdapter::toArray() const { return lend(getRaster(), data_, false); }
+py::array MapAdapter::toArray() const
+{
+    if (const Tessaly::Raster* whole = getSource()->getWhole())
+        return lend(*whole, data_, false);
+    const Tessaly::Raster& header = getHeader();
+    Tessaly::Raster cells = getSource()->readLines(0, header.getLineCount());
+    auto owned = std::make_shared<const Tessaly::Raster>(std::move(cells));
+    return lend(*owned, owned, false);
+}
 
 py::array MapAdapter::toArray(Tessaly::Raster&& raster)
 {
@@ -158,28 +173,31 @@ py::array MapAdapter::toArray(Tessaly::Raster&& raster)
     return lend(cells, std::shared_ptr<const Tessaly::Raster>(std::move(owned)), true);
 }
 
-int MapAdapter::getLines() const { return getRaster().getLineCount(); }
+int MapAdapter::getLines() const { return getHeader().getLineCount(); }
 
-int MapAdapter::getColumns() const { return getRaster().getColumnCount(); }
+int MapAdapter::getColumns() const { return getHeader().getColumnCount(); }
 
 py::tuple MapAdapter::getGeoTransform() const
 {
-    return py::tuple(py::cast(getRaster().getGrid().geoTransform));
+    return py::tuple(py::cast(getHeader().getGrid().geoTransform));
 }
 
-std::string MapAdapter::getProjection() const { return getRaster().getGrid().projection; }
+std::string MapAdapter::getProjection() const { return getHeader().getGrid().projection; }
 
 py::object MapAdapter::getNoData() const
 {
-    const Tessaly::Raster& raster = getRaster();
+    const Tessaly::Raster& raster = getHeader();
     return raster.hasNoData() ? py::object(py::float_(raster.getNoData())) : py::object(py::none());
 }
 
 std::string MapAdapter::getCellType() const
 {
-    return dtypeOf(getRaster().getCellType()).attr("name").cast<std::string>();
+    return dtypeOf(getHeader().getCellType()).attr("name").cast<std::string>();
 }
 
-const Tessaly::Raster& MapAdapter::getRaster() const { return *data_->getValue(); }
+const Tessaly::Raster& MapAdapter::getHeader() const { return getSource()->getHeader(); }
 
-std::shared_ptr<const Tessaly::Raster> MapAdapter::shareRaster() const { return data_->getValue(); }
+const std::shared_ptr<const Tessaly::RasterSource>& MapAdapter::getSource() const
+{
+    return data_->getValue();
+}

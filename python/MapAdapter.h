@@ -11,8 +11,9 @@
 
 // A map as Python sees it (`vrk.Map`): the only part of the module that knows how a
 // map's cells are kept, so that a change of that touches this class alone. Maps never
-// change once made; arrays are copied into a map, and a map's cells are lent to numpy
-// read-only, without a copy.
+// change once made; arrays are copied into a map, and the cells of a map held in memory
+// are lent to numpy read-only, without a copy (those of a map kept in a file are read
+// into the array).
 class MapAdapter {
 public:
     explicit MapAdapter(std::shared_ptr<const Maps::MapData> data);
@@ -43,10 +44,12 @@ public:
     std::string getCellType() const;
 
     const std::shared_ptr<const Maps::MapData>& getData() const { return data_; }
-    const Tessaly::Raster& getRaster() const;
-    std::shared_ptr<const Tessaly::Raster> shareRaster() const;
+    const std::shared_ptr<const Tessaly::RasterSource>& getSource() const;
 
 private:
+    // The grid, cell type and NoData, wherever the cells are kept.
+    const Tessaly::Raster& getHeader() const;
+
     std::shared_ptr<const Maps::MapData> data_;
 };
 
