@@ -14,8 +14,8 @@
 #include "base/task/Task.h"
 #include "bench/RecordingReporter.h"
 #include "bench/ScriptSetup.h"
-#include "plugins/prim/DoubleData.h"
-#include "plugins/prim/DoubleType.h"
+#include "plugins/prim/values/numbers/DoubleData.h"
+#include "plugins/prim/values/numbers/DoubleType.h"
 
 #include <benchmark/benchmark.h>
 #include <boost/spirit/include/classic_symbols.hpp>

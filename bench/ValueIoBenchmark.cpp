@@ -10,8 +10,8 @@
 #include "base/parse/ValueParser.h"
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/plugin/Plugin.h"
-#include "plugins/prim/IntSetEditor.h"
-#include "plugins/prim/StringEditor.h"
+#include "plugins/prim/values/numbers/IntSetEditor.h"
+#include "plugins/prim/values/texts/StringEditor.h"
 
 #include <benchmark/benchmark.h>
 

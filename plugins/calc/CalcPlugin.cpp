@@ -1,6 +1,6 @@
 #include "base/plugin/Plugin.h"
 #include "plugins/calc/CalculateValueFunctor.h"
-#include "plugins/prim/PrimRegistrar.h"
+#include "plugins/prim/registry/PrimRegistrar.h"
 
 // Registered through Prim's routines, so that it logs alike.
 extern "C" void registerCalcPlugin(VRK::Plugin& plugin)

@@ -1,4 +1,4 @@
-#include "plugins/prim/PrimRegistrar.h"
+#include "plugins/prim/registry/PrimRegistrar.h"
 
 #include "base/parse/ScannerTypes.h"
 #include "base/plugin/Plugin.h"
@@ -11,8 +11,8 @@
 #include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileReader.h"
 #include "plugins/io/TextFileType.h"
-#include "plugins/prim/FilenameWriter.h"
-#include "plugins/prim/StringToFilenameDataConverter.h"
+#include "plugins/prim/files/FilenameWriter.h"
+#include "plugins/prim/files/StringToFilenameDataConverter.h"
 
 namespace {
 

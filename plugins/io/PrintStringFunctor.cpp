@@ -1,7 +1,7 @@
 #include "plugins/io/PrintStringFunctor.h"
 
 #include "plugins/io/PrintUtils.h"
-#include "plugins/prim/StringType.h"
+#include "plugins/prim/values/texts/StringType.h"
 
 namespace Io {
 

@@ -1,7 +1,7 @@
 #include "plugins/io/PrintUtils.h"
 
 #include "base/log/Logger.h"
-#include "plugins/prim/StringType.h"
+#include "plugins/prim/values/texts/StringType.h"
 
 namespace Io {
 

@@ -1,7 +1,7 @@
 #include "plugins/io/PrintValueFunctor.h"
 
 #include "plugins/io/PrintUtils.h"
-#include "plugins/prim/DoubleType.h"
+#include "plugins/prim/values/numbers/DoubleType.h"
 
 #include <cassert>
 #include <charconv>

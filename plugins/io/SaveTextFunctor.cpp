@@ -3,9 +3,9 @@
 #include "base/script/AtomicFileWriter.h"
 #include "base/task/Task.h"
 #include "plugins/io/TextFileUtils.h"
-#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
-#include "plugins/prim/StringData.h"
-#include "plugins/prim/StringType.h"
+#include "plugins/prim/files/FilenamedFunctorVerifierAdapter.h"
+#include "plugins/prim/values/texts/StringData.h"
+#include "plugins/prim/values/texts/StringType.h"
 
 #include <algorithm>
 #include <functional>

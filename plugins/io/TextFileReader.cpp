@@ -1,7 +1,7 @@
 #include "plugins/io/TextFileReader.h"
 
 #include "plugins/io/TextFileEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
 
 namespace Io {
 

@@ -2,7 +2,7 @@
 
 #include "plugins/io/TextFileEditor.h"
 #include "plugins/io/TextFileType.h"
-#include "plugins/prim/FilenamedFunctorUtils.h"
+#include "plugins/prim/files/FilenamedFunctorUtils.h"
 
 namespace Io {
 

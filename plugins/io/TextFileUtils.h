@@ -1,8 +1,8 @@
 #ifndef VRK_PLUGINS_IO_TEXTFILEUTILS_H
 #define VRK_PLUGINS_IO_TEXTFILEUTILS_H
 
-#include "plugins/prim/FilenamedFunctor.h"
-#include "plugins/prim/FilenamedFunctorUtils.h"
+#include "plugins/prim/files/FilenamedFunctor.h"
+#include "plugins/prim/files/FilenamedFunctorUtils.h"
 
 #include <boost/filesystem/path.hpp>
 

@@ -7,11 +7,11 @@
 #include "plugins/maps/NamedMapRegistratorType.h"
 #include "plugins/maps/NumberedLookupTableRegistratorType.h"
 #include "plugins/maps/NumberedMapRegistratorType.h"
-#include "plugins/prim/IntData.h"
-#include "plugins/prim/NamedValueRegistratorType.h"
-#include "plugins/prim/NumberedValueRegistratorType.h"
-#include "plugins/prim/PrimEnvironmentUtils.h"
-#include "plugins/prim/StringData.h"
+#include "plugins/prim/environment/NamedValueRegistratorType.h"
+#include "plugins/prim/environment/NumberedValueRegistratorType.h"
+#include "plugins/prim/environment/PrimEnvironmentUtils.h"
+#include "plugins/prim/values/numbers/IntData.h"
+#include "plugins/prim/values/texts/StringData.h"
 #include "tessaly/images/LookupTableData.h"
 
 #include <cassert>

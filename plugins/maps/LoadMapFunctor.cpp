@@ -5,8 +5,8 @@
 #include "plugins/maps/MapFileEditor.h"
 #include "plugins/maps/MapFileType.h"
 #include "plugins/maps/MapType.h"
-#include "plugins/prim/FilenamedFunctorUtils.h"
-#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
+#include "plugins/prim/files/FilenamedFunctorUtils.h"
+#include "plugins/prim/files/FilenamedFunctorVerifierAdapter.h"
 
 namespace Maps {
 

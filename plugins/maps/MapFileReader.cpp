@@ -1,7 +1,7 @@
 #include "plugins/maps/MapFileReader.h"
 
 #include "plugins/maps/MapFileEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
 
 namespace Maps {
 

@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_MAPFILEREADER_H
 #define VRK_PLUGINS_MAPS_MAPFILEREADER_H
 
-#include "plugins/prim/FilenameReader.h"
+#include "plugins/prim/files/FilenameReader.h"
 
 namespace Maps {
 

@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_MAPFILEVIEWER_H
 #define VRK_PLUGINS_MAPS_MAPFILEVIEWER_H
 
-#include "plugins/prim/FilenameViewer.h"
+#include "plugins/prim/files/FilenameViewer.h"
 
 namespace Maps {
 

@@ -30,9 +30,9 @@
 #include "plugins/maps/TableFileEditor.h"
 #include "plugins/maps/TableFileReader.h"
 #include "plugins/maps/TableFileType.h"
-#include "plugins/prim/FilenameWriter.h"
-#include "plugins/prim/PrimRegistrar.h"
-#include "plugins/prim/StringToFilenameDataConverter.h"
+#include "plugins/prim/files/FilenameWriter.h"
+#include "plugins/prim/files/StringToFilenameDataConverter.h"
+#include "plugins/prim/registry/PrimRegistrar.h"
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
 

@@ -4,8 +4,8 @@
 #include "base/util/Singleton.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapType.h"
-#include "plugins/prim/ControlLog.h"
-#include "plugins/prim/MultiplexerType.h"
+#include "plugins/prim/flow/ControlLog.h"
+#include "plugins/prim/flow/MultiplexerType.h"
 
 #include <memory>
 

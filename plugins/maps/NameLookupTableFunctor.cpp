@@ -2,7 +2,7 @@
 
 #include "base/util/Singleton.h"
 #include "plugins/maps/NamedLookupTableRegistratorType.h"
-#include "plugins/prim/NameType.h"
+#include "plugins/prim/values/texts/NameType.h"
 #include "tessaly/images/LookupTableType.h"
 
 namespace Maps {

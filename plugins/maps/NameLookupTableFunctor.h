@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_NAMELOOKUPTABLEFUNCTOR_H
 #define VRK_PLUGINS_MAPS_NAMELOOKUPTABLEFUNCTOR_H
 
-#include "plugins/prim/NameBanneredHookFunctor.h"
+#include "plugins/prim/environment/NameBanneredHookFunctor.h"
 
 namespace Maps {
 

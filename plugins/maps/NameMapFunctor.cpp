@@ -3,7 +3,7 @@
 #include "base/util/Singleton.h"
 #include "plugins/maps/MapType.h"
 #include "plugins/maps/NamedMapRegistratorType.h"
-#include "plugins/prim/NameType.h"
+#include "plugins/prim/values/texts/NameType.h"
 
 namespace Maps {
 

@@ -2,7 +2,7 @@
 
 #include "base/util/Singleton.h"
 #include "plugins/maps/NumberedLookupTableRegistratorType.h"
-#include "plugins/prim/PositiveIntType.h"
+#include "plugins/prim/values/numbers/PositiveIntType.h"
 #include "tessaly/images/LookupTableType.h"
 
 namespace Maps {

@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_NUMBERLOOKUPTABLEFUNCTOR_H
 #define VRK_PLUGINS_MAPS_NUMBERLOOKUPTABLEFUNCTOR_H
 
-#include "plugins/prim/NumberBanneredHookFunctor.h"
+#include "plugins/prim/environment/NumberBanneredHookFunctor.h"
 
 namespace Maps {
 

@@ -3,7 +3,7 @@
 #include "base/util/Singleton.h"
 #include "plugins/maps/MapType.h"
 #include "plugins/maps/NumberedMapRegistratorType.h"
-#include "plugins/prim/PositiveIntType.h"
+#include "plugins/prim/values/numbers/PositiveIntType.h"
 
 namespace Maps {
 

@@ -3,8 +3,8 @@
 #include "plugins/maps/LookupTableCsvWriter.h"
 #include "plugins/maps/TableFileEditor.h"
 #include "plugins/maps/TableFileType.h"
-#include "plugins/prim/FilenamedFunctorUtils.h"
-#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
+#include "plugins/prim/files/FilenamedFunctorUtils.h"
+#include "plugins/prim/files/FilenamedFunctorVerifierAdapter.h"
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
 

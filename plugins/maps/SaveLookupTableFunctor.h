@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_SAVELOOKUPTABLEFUNCTOR_H
 #define VRK_PLUGINS_MAPS_SAVELOOKUPTABLEFUNCTOR_H
 
-#include "plugins/prim/FilenamedFunctor.h"
+#include "plugins/prim/files/FilenamedFunctor.h"
 
 namespace Maps {
 

@@ -4,8 +4,8 @@
 #include "base/data/Data.h"
 #include "plugins/maps/TableFileEditor.h"
 #include "plugins/maps/TableFileViewer.h"
-#include "plugins/prim/CompoundFilename.h"
-#include "plugins/prim/FilenameData.h"
+#include "plugins/prim/files/CompoundFilename.h"
+#include "plugins/prim/files/FilenameData.h"
 
 namespace Maps {
 

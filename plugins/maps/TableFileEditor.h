@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_TABLEFILEEDITOR_H
 #define VRK_PLUGINS_MAPS_TABLEFILEEDITOR_H
 
-#include "plugins/prim/FilenameEditor.h"
+#include "plugins/prim/files/FilenameEditor.h"
 
 #include <set>
 #include <string>

@@ -1,7 +1,7 @@
 #include "plugins/maps/TableFileReader.h"
 
 #include "plugins/maps/TableFileEditor.h"
-#include "plugins/prim/PrimEditorUtils.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
 
 namespace Maps {
 

@@ -1,7 +1,7 @@
 #include "plugins/io/PrintStringFunctor.h"
 #include "plugins/io/PrintValueFunctor.h"
-#include "plugins/prim/DoubleEditor.h"
-#include "plugins/prim/StringEditor.h"
+#include "plugins/prim/values/numbers/DoubleEditor.h"
+#include "plugins/prim/values/texts/StringEditor.h"
 
 #include "tests/support/LogCapture.h"
 #include "tests/support/PrimRegistration.h"

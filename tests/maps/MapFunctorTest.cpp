@@ -2,8 +2,8 @@
 #include "plugins/maps/CalculateMapFunctor.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/NumberMapFunctor.h"
-#include "plugins/prim/DoubleFunctor.h"
-#include "plugins/prim/NameValueFunctor.h"
+#include "plugins/prim/carriers/DoubleFunctor.h"
+#include "plugins/prim/environment/NameValueFunctor.h"
 
 #include "base/error/Exception.h"
 #include "base/script/Script.h"

@@ -1,5 +1,5 @@
 #include "base/util/DirectoryStack.h"
-#include "plugins/prim/CompoundFilename.h"
+#include "plugins/prim/files/CompoundFilename.h"
 #include "tests/support/LogCapture.h"
 
 #include <boost/filesystem/operations.hpp>

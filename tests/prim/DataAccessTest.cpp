@@ -1,9 +1,9 @@
 #include "base/data/DataCast.h"
 #include "base/data/DataPool.h"
-#include "plugins/prim/DoubleData.h"
-#include "plugins/prim/IntData.h"
-#include "plugins/prim/NonNegativeIntData.h"
-#include "plugins/prim/StringData.h"
+#include "plugins/prim/values/numbers/DoubleData.h"
+#include "plugins/prim/values/numbers/IntData.h"
+#include "plugins/prim/values/numbers/NonNegativeIntData.h"
+#include "plugins/prim/values/texts/StringData.h"
 
 #include <gtest/gtest.h>
 

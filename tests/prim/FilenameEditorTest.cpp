@@ -1,10 +1,10 @@
 #include "base/error/IllegalDataException.h"
 #include "base/graph/ContainerFunctor.h"
 #include "base/script/Script.h"
-#include "plugins/prim/FolderData.h"
-#include "plugins/prim/FolderType.h"
-#include "plugins/prim/WorkdirData.h"
-#include "plugins/prim/WorkdirType.h"
+#include "plugins/prim/files/FolderData.h"
+#include "plugins/prim/files/FolderType.h"
+#include "plugins/prim/files/WorkdirData.h"
+#include "plugins/prim/files/WorkdirType.h"
 #include "tests/support/LogCapture.h"
 
 #include <boost/filesystem/operations.hpp>

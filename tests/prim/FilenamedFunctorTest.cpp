@@ -1,11 +1,11 @@
 #include "base/graph/ContainerFunctor.h"
 #include "base/script/Script.h"
 #include "base/script/ScriptBuilder.h"
-#include "plugins/prim/FilenamedFunctor.h"
-#include "plugins/prim/FilenamedFunctorVerifierAdapter.h"
-#include "plugins/prim/FolderType.h"
-#include "plugins/prim/NonNegativeIntType.h"
-#include "plugins/prim/WorkdirType.h"
+#include "plugins/prim/files/FilenamedFunctor.h"
+#include "plugins/prim/files/FilenamedFunctorVerifierAdapter.h"
+#include "plugins/prim/files/FolderType.h"
+#include "plugins/prim/files/WorkdirType.h"
+#include "plugins/prim/values/numbers/NonNegativeIntType.h"
 #include "tests/support/PrimRegistration.h"
 
 #include <boost/filesystem/operations.hpp>

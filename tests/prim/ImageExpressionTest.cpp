@@ -1,9 +1,9 @@
 #include "base/error/IllegalDataException.h"
 #include "base/graph/Functor.h"
-#include "plugins/prim/ImageExpressionData.h"
-#include "plugins/prim/ImageExpressionEditor.h"
-#include "plugins/prim/ImageExpressionReader.h"
-#include "plugins/prim/ImageExpressionWriter.h"
+#include "plugins/prim/formula/ImageExpressionData.h"
+#include "plugins/prim/formula/ImageExpressionEditor.h"
+#include "plugins/prim/formula/ImageExpressionReader.h"
+#include "plugins/prim/formula/ImageExpressionWriter.h"
 #include "tessaly/images/LeafNodes.h"
 #include "tests/prim/ValueScan.h"
 

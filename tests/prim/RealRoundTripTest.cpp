@@ -2,8 +2,8 @@
 #include "base/parse/ScannerTypes.h"
 #include "base/plugin/FactoryFarm.h"
 #include "base/plugin/Plugin.h"
-#include "plugins/prim/DoubleEditor.h"
-#include "plugins/prim/PercentEditor.h"
+#include "plugins/prim/values/numbers/DoubleEditor.h"
+#include "plugins/prim/values/numbers/PercentEditor.h"
 #include "tests/prim/ValueScan.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "plugins/prim/StringFormat.h"
 #include "base/error/Exception.h"
+#include "plugins/prim/environment/StringFormat.h"
 
 #include <gtest/gtest.h>
 

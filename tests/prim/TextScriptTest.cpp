@@ -6,7 +6,7 @@
 #include "base/script/text/DefaultScriptReader.h"
 #include "base/script/text/DefaultScriptWriter.h"
 #include "base/verify/NonIntrusiveScriptVerifier.h"
-#include "plugins/prim/DoubleEditor.h"
+#include "plugins/prim/values/numbers/DoubleEditor.h"
 #include "tests/support/PrimRegistration.h"
 #include "tests/support/ScriptText.h"
 

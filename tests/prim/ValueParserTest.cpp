@@ -3,13 +3,13 @@
 #include "base/plugin/FactoryError.h"
 #include "base/plugin/FactoryFarmManager.h"
 #include "base/plugin/Plugin.h"
-#include "plugins/prim/IntSetEditor.h"
-#include "plugins/prim/LogTagEditor.h"
-#include "plugins/prim/NameEditor.h"
-#include "plugins/prim/NonNegativeIntEditor.h"
-#include "plugins/prim/PercentEditor.h"
-#include "plugins/prim/PositiveIntEditor.h"
-#include "plugins/prim/StringEditor.h"
+#include "plugins/prim/values/keywords/LogTagEditor.h"
+#include "plugins/prim/values/numbers/IntSetEditor.h"
+#include "plugins/prim/values/numbers/NonNegativeIntEditor.h"
+#include "plugins/prim/values/numbers/PercentEditor.h"
+#include "plugins/prim/values/numbers/PositiveIntEditor.h"
+#include "plugins/prim/values/texts/NameEditor.h"
+#include "plugins/prim/values/texts/StringEditor.h"
 
 #include <gtest/gtest.h>
 

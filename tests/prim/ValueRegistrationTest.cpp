@@ -2,8 +2,8 @@
 #include "base/parse/ScannerTypes.h"
 #include "base/plugin/FactoryFarm.h"
 #include "base/plugin/Plugin.h"
-#include "plugins/prim/IntSetEditor.h"
-#include "plugins/prim/LogTagEditor.h"
+#include "plugins/prim/values/keywords/LogTagEditor.h"
+#include "plugins/prim/values/numbers/IntSetEditor.h"
 #include "tests/prim/ValueScan.h"
 
 #include <gtest/gtest.h>

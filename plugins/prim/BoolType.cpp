@@ -1,9 +1,0 @@
-#include "plugins/prim/BoolType.h"
-
-namespace Prim {
-
-BoolType::BoolType() : VRK::TypeShim<BoolType, BoolData>("Bool", "Boolean") {}
-
-BoolType::~BoolType() = default;
-
-} // namespace Prim

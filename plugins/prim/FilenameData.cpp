@@ -1,7 +1,0 @@
-#include "plugins/prim/FilenameData.h"
-
-namespace Prim {
-
-FilenameData::~FilenameData() = default;
-
-} // namespace Prim

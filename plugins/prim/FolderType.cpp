@@ -1,9 +1,0 @@
-#include "plugins/prim/FolderType.h"
-
-namespace Prim {
-
-FolderType::FolderType() : VRK::TypeShim<FolderType, FolderData>("Folder", "Folder") {}
-
-FolderType::~FolderType() = default;
-
-} // namespace Prim

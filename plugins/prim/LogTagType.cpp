@@ -1,9 +1,0 @@
-#include "plugins/prim/LogTagType.h"
-
-namespace Prim {
-
-LogTagType::LogTagType() : VRK::TypeShim<LogTagType, LogTagData>("LogTag", "LogTag") {}
-
-LogTagType::~LogTagType() = default;
-
-} // namespace Prim

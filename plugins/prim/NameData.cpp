@@ -1,9 +1,0 @@
-#include "plugins/prim/NameData.h"
-
-namespace Prim {
-
-NameData::NameData(const std::string& name) : StringData(name) {}
-
-NameData::~NameData() = default;
-
-} // namespace Prim

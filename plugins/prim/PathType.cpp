@@ -1,9 +1,0 @@
-#include "plugins/prim/PathType.h"
-
-namespace Prim {
-
-PathType::PathType() : VRK::TypeShim<PathType, PathData>("Path", "File path") {}
-
-PathType::~PathType() = default;
-
-} // namespace Prim

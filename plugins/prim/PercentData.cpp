@@ -1,9 +1,0 @@
-#include "plugins/prim/PercentData.h"
-
-namespace Prim {
-
-PercentData::PercentData(double value) : DoubleData(value) {}
-
-PercentData::~PercentData() = default;
-
-} // namespace Prim

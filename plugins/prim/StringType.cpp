@@ -1,9 +1,0 @@
-#include "plugins/prim/StringType.h"
-
-namespace Prim {
-
-StringType::StringType() : VRK::TypeShim<StringType, StringData>("String", "String") {}
-
-StringType::~StringType() = default;
-
-} // namespace Prim

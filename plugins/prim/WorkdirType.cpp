@@ -1,9 +1,0 @@
-#include "plugins/prim/WorkdirType.h"
-
-namespace Prim {
-
-WorkdirType::WorkdirType() : VRK::TypeShim<WorkdirType, WorkdirData>("Workdir", "Work directory") {}
-
-WorkdirType::~WorkdirType() = default;
-
-} // namespace Prim

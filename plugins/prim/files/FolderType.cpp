@@ -1,0 +1,9 @@
+#include "plugins/prim/files/FolderType.h"
+
+namespace Prim {
+
+FolderType::FolderType() : VRK::TypeShim<FolderType, FolderData>("Folder", "Folder") {}
+
+FolderType::~FolderType() = default;
+
+} // namespace Prim

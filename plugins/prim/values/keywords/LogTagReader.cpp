@@ -1,0 +1,38 @@
+#include "plugins/prim/values/keywords/LogTagReader.h"
+
+#include "base/log/LogTagInfo.h"
+#include "base/parse/TransducedAssertiveParser.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
+#include "plugins/prim/values/keywords/LogTagEditor.h"
+
+namespace Prim {
+
+template <class ScannerT>
+LogTagReader<ScannerT>::LogTagReader(VRK::DataEditor* dataEditor)
+    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a log level.")
+{
+    using namespace boost::spirit::classic;
+    LogTagEditor* editor = &PrimEditorUtils::editorOf<LogTagEditor>(dataEditor);
+    auto keyword = [editor](VRK::LogTag tag) {
+        auto setTag = [editor, tag](auto, auto) { editor->setLogTag(tag); };
+        return str_p(VRK::LogTagInfo::getName(tag))[setTag];
+    };
+    // Keywords are plain literals tried in this order; ".info" before ".info2" and
+    // ".debug" before ".debug2" is how scripts have always been read.
+    grammar_ = VRK::Spirit::transduced_assertive_p(
+        keyword(VRK::unconditional) | keyword(VRK::result) | keyword(VRK::error)
+            | keyword(VRK::warning) | keyword(VRK::info) | keyword(VRK::info2)
+            | keyword(VRK::debug) | keyword(VRK::debug2) | keyword(VRK::trace),
+        message_);
+}
+
+template <class ScannerT>
+std::ptrdiff_t LogTagReader<ScannerT>::read(const ScannerT& scan) const
+{
+    return grammar_.parse(scan).length();
+}
+
+template class LogTagReader<VRK::ScriptScanner>;
+template class LogTagReader<VRK::PlainScanner>;
+
+} // namespace Prim

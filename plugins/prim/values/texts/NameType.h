@@ -1,0 +1,18 @@
+#ifndef VRK_PLUGINS_PRIM_NAMETYPE_H
+#define VRK_PLUGINS_PRIM_NAMETYPE_H
+
+#include "base/data/TypeShim.h"
+#include "plugins/prim/values/texts/NameData.h"
+#include "plugins/prim/values/texts/StringType.h"
+
+namespace Prim {
+
+class NameType : public VRK::TypeShim<NameType, NameData> {
+public:
+    NameType();
+    ~NameType() override;
+};
+
+} // namespace Prim
+
+#endif
