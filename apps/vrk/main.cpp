@@ -6,7 +6,7 @@
 #include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
-#include "apps/vrk/SweepCommand.h"
+#include "apps/vrk/sweep/SweepCommand.h"
 
 #include "base/error/Exception.h"
 #include "base/log/LogTagInfo.h"

@@ -1,8 +1,8 @@
 #ifndef VRK_APPS_VRK_MPI_SWEEPRANKSLOTS_H
 #define VRK_APPS_VRK_MPI_SWEEPRANKSLOTS_H
 
-#include "apps/vrk/SweepSlots.h"
-#include "apps/vrk/mpi/SweepRankLink.h"
+#include "apps/vrk/sweep/SweepSlots.h"
+#include "apps/vrk/sweep/mpi/SweepRankLink.h"
 
 #include <chrono>
 #include <map>

@@ -1,6 +1,6 @@
-#include "apps/vrk/SweepProcess.h"
+#include "apps/vrk/sweep/SweepProcess.h"
 
-#include "apps/vrk/SweepJob.h"
+#include "apps/vrk/sweep/SweepJob.h"
 
 #include <boost/filesystem/operations.hpp>
 

@@ -1,9 +1,9 @@
 #ifndef VRK_APPS_VRK_SWEEPSESSION_H
 #define VRK_APPS_VRK_SWEEPSESSION_H
 
-#include "apps/vrk/SweepCommand.h"
-#include "apps/vrk/SweepJob.h"
-#include "apps/vrk/SweepRecorder.h"
+#include "apps/vrk/sweep/SweepCommand.h"
+#include "apps/vrk/sweep/SweepJob.h"
+#include "apps/vrk/sweep/SweepRecorder.h"
 
 #include <deque>
 #include <memory>

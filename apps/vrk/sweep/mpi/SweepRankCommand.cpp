@@ -1,9 +1,9 @@
-#include "apps/vrk/mpi/SweepRankCommand.h"
+#include "apps/vrk/sweep/mpi/SweepRankCommand.h"
 
-#include "apps/vrk/SweepSession.h"
-#include "apps/vrk/mpi/SweepRankLink.h"
-#include "apps/vrk/mpi/SweepRankSlots.h"
-#include "apps/vrk/mpi/SweepRankWorker.h"
+#include "apps/vrk/sweep/SweepSession.h"
+#include "apps/vrk/sweep/mpi/SweepRankLink.h"
+#include "apps/vrk/sweep/mpi/SweepRankSlots.h"
+#include "apps/vrk/sweep/mpi/SweepRankWorker.h"
 
 int SweepRankCommand::run(const SweepCommand::Options& options, std::ostream& out,
                           std::ostream& err)

@@ -1,9 +1,9 @@
-#include "apps/vrk/SweepCommand.h"
+#include "apps/vrk/sweep/SweepCommand.h"
 
-#include "apps/vrk/SweepSession.h"
+#include "apps/vrk/sweep/SweepSession.h"
 
 #ifdef VRK_MPI
-#include "apps/vrk/mpi/SweepRankCommand.h"
+#include "apps/vrk/sweep/mpi/SweepRankCommand.h"
 #endif
 
 #include <cstdlib>

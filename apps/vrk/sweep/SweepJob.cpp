@@ -1,4 +1,4 @@
-#include "apps/vrk/SweepJob.h"
+#include "apps/vrk/sweep/SweepJob.h"
 
 #include <boost/filesystem/path.hpp>
 

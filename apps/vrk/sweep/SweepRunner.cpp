@@ -1,6 +1,6 @@
-#include "apps/vrk/SweepRunner.h"
+#include "apps/vrk/sweep/SweepRunner.h"
 
-#include "apps/vrk/SweepRecorder.h"
+#include "apps/vrk/sweep/SweepRecorder.h"
 
 SweepRunner::SweepRunner(unsigned int jobs) : jobs_(jobs) {}
 

@@ -1,8 +1,8 @@
 #ifndef VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
 #define VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
 
-#include "apps/vrk/SweepRecorder.h"
-#include "apps/vrk/mpi/SweepRankLink.h"
+#include "apps/vrk/sweep/SweepRecorder.h"
+#include "apps/vrk/sweep/mpi/SweepRankLink.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "apps/vrk/SweepProgress.h"
+#include "apps/vrk/sweep/SweepProgress.h"
 
 #include <cmath>
 #include <iomanip>

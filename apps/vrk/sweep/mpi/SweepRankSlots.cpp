@@ -1,7 +1,7 @@
-#include "apps/vrk/mpi/SweepRankSlots.h"
+#include "apps/vrk/sweep/mpi/SweepRankSlots.h"
 
-#include "apps/vrk/SweepJob.h"
-#include "apps/vrk/SweepRecorder.h"
+#include "apps/vrk/sweep/SweepJob.h"
+#include "apps/vrk/sweep/SweepRecorder.h"
 
 #include <cassert>
 

@@ -1,8 +1,8 @@
 #ifndef VRK_APPS_VRK_SWEEPJOB_H
 #define VRK_APPS_VRK_SWEEPJOB_H
 
-#include "apps/vrk/SweepCommand.h"
-#include "apps/vrk/SweepTable.h"
+#include "apps/vrk/sweep/SweepCommand.h"
+#include "apps/vrk/sweep/SweepTable.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #ifndef VRK_APPS_VRK_SWEEPRECORDER_H
 #define VRK_APPS_VRK_SWEEPRECORDER_H
 
-#include "apps/vrk/SweepSummary.h"
+#include "apps/vrk/sweep/SweepSummary.h"
 
 #include <string>
 

@@ -1,11 +1,11 @@
-#include "apps/vrk/SweepSession.h"
+#include "apps/vrk/sweep/SweepSession.h"
 
 #include "apps/host/DiagnosticPrinter.h"
 #include "apps/vrk/InterruptGuard.h"
-#include "apps/vrk/SweepProgress.h"
-#include "apps/vrk/SweepRunner.h"
-#include "apps/vrk/SweepSummary.h"
-#include "apps/vrk/SweepTable.h"
+#include "apps/vrk/sweep/SweepProgress.h"
+#include "apps/vrk/sweep/SweepRunner.h"
+#include "apps/vrk/sweep/SweepSummary.h"
+#include "apps/vrk/sweep/SweepTable.h"
 
 #include "base/error/Exception.h"
 #include "base/script/Script.h"

@@ -1,9 +1,9 @@
-#include "apps/vrk/mpi/SweepRankWorker.h"
+#include "apps/vrk/sweep/mpi/SweepRankWorker.h"
 
 #include "apps/vrk/InterruptGuard.h"
-#include "apps/vrk/SweepJob.h"
-#include "apps/vrk/SweepRunner.h"
-#include "apps/vrk/mpi/SweepRankLink.h"
+#include "apps/vrk/sweep/SweepJob.h"
+#include "apps/vrk/sweep/SweepRunner.h"
+#include "apps/vrk/sweep/mpi/SweepRankLink.h"
 
 #include "base/task/Task.h"
 

@@ -1,4 +1,4 @@
-#include "apps/vrk/SweepSummary.h"
+#include "apps/vrk/sweep/SweepSummary.h"
 
 #include "apps/vrk/CsvFields.h"
 

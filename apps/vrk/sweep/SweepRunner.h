@@ -1,8 +1,8 @@
 #ifndef VRK_APPS_VRK_SWEEPRUNNER_H
 #define VRK_APPS_VRK_SWEEPRUNNER_H
 
-#include "apps/vrk/SweepProcess.h"
-#include "apps/vrk/SweepSlots.h"
+#include "apps/vrk/sweep/SweepProcess.h"
+#include "apps/vrk/sweep/SweepSlots.h"
 
 #include <list>
 

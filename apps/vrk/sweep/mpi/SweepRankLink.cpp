@@ -1,4 +1,4 @@
-#include "apps/vrk/mpi/SweepRankLink.h"
+#include "apps/vrk/sweep/mpi/SweepRankLink.h"
 
 #include <chrono>
 #include <thread>

@@ -1,7 +1,7 @@
 #ifndef VRK_APPS_VRK_MPI_SWEEPRANKCOMMAND_H
 #define VRK_APPS_VRK_MPI_SWEEPRANKCOMMAND_H
 
-#include "apps/vrk/SweepCommand.h"
+#include "apps/vrk/sweep/SweepCommand.h"
 
 #include <ostream>
 

@@ -1,4 +1,4 @@
-#include "apps/vrk/SweepTable.h"
+#include "apps/vrk/sweep/SweepTable.h"
 
 #include "apps/vrk/CsvFields.h"
 
