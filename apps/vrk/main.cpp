@@ -100,7 +100,7 @@ int runCommandLine(int argc, char** argv)
                     "Folder that relative outputs go to, created when missing");
     commands.push_back({run, [&] { return RunCommand::run(runOptions, std::cerr); }});
 
-    SweepCommand::Options sweepOptions;
+    Sweep::SweepOptions sweepOptions;
     CLI::App* sweep = app.add_subcommand("sweep", "Run a script once per row of a CSV table");
     sweep->add_option("model", sweepOptions.model, "The script file")->required();
     sweep->add_option("table", sweepOptions.table, "CSV of alias.port columns, one run a row")
@@ -114,7 +114,7 @@ int runCommandLine(int argc, char** argv)
     commands.push_back({sweep, [&] {
                             sweepOptions.logLevel = logLevel;
                             sweepOptions.pluginDir = pluginDir;
-                            return SweepCommand::run(sweepOptions, std::cout, std::cerr);
+                            return Sweep::SweepCommand::run(sweepOptions, std::cout, std::cerr);
                         }});
 
     try {

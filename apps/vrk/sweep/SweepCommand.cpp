@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <string>
 
+namespace Sweep {
+
 namespace {
 
 // mpirun tells each process it starts the size of the job and its rank there; a process
@@ -21,7 +23,7 @@ int fromMpirun(const char* variable)
 
 } // namespace
 
-int SweepCommand::run(const Options& options, std::ostream& out, std::ostream& err)
+int SweepCommand::run(const SweepOptions& options, std::ostream& out, std::ostream& err)
 {
     if (fromMpirun("OMPI_COMM_WORLD_SIZE") > 1) {
 #ifdef VRK_MPI
@@ -32,7 +34,10 @@ int SweepCommand::run(const Options& options, std::ostream& out, std::ostream& e
                    "over the ranks of mpirun; run the sweep without mpirun.\n";
         return 2;
 #endif
+
     }
     SweepSession session(options, out, err);
     return session.readTable() ? session.run(nullptr) : 2;
 }
+
+} // namespace Sweep

@@ -4,7 +4,9 @@
 
 #include <cassert>
 
-SweepJob SweepJob::of(const SweepCommand::Options& options, const SweepTable::Row& row)
+namespace Sweep {
+
+SweepJob SweepJob::of(const SweepOptions& options, const SweepTable::Row& row)
 {
     SweepJob job{row.run, (boost::filesystem::path(options.out) / row.run).string(), {}};
     job.arguments = {"--log-level", options.logLevel};
@@ -31,3 +33,5 @@ SweepJob SweepJob::fromWords(const std::vector<std::string>& words)
     assert(words.size() >= 2 && "a job has at least a run and a folder");
     return {words[0], words[1], {words.begin() + 2, words.end()}};
 }
+
+} // namespace Sweep

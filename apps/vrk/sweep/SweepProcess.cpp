@@ -15,6 +15,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace Sweep {
+
 namespace {
 
 // Only async-signal-safe calls between fork and exec.
@@ -117,3 +119,5 @@ void SweepProcess::take(int waitStatus)
     end_ = std::chrono::steady_clock::now();
     status_ = WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 128 + WTERMSIG(waitStatus);
 }
+
+} // namespace Sweep

@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_SWEEPPROCESS_H
-#define VRK_APPS_VRK_SWEEPPROCESS_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPPROCESS_H
+#define VRK_APPS_VRK_SWEEP_SWEEPPROCESS_H
 
 #include "apps/vrk/sweep/SweepSummary.h"
 
@@ -7,6 +7,8 @@
 #include <string>
 
 #include <sys/types.h>
+
+namespace Sweep {
 
 struct SweepJob;
 
@@ -42,5 +44,7 @@ private:
     std::chrono::steady_clock::time_point start_;
     std::chrono::steady_clock::time_point end_;
 };
+
+} // namespace Sweep
 
 #endif

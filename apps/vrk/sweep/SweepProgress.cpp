@@ -3,6 +3,8 @@
 #include <cmath>
 #include <iomanip>
 
+namespace Sweep {
+
 SweepProgress::SweepProgress(std::ostream& out, bool terminal, size_t total)
     : out_(out), terminal_(terminal), total_(total), start_(std::chrono::steady_clock::now())
 {
@@ -51,3 +53,5 @@ double SweepProgress::elapsed() const
 {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
 }
+
+} // namespace Sweep

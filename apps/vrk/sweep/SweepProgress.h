@@ -1,9 +1,11 @@
-#ifndef VRK_APPS_VRK_SWEEPPROGRESS_H
-#define VRK_APPS_VRK_SWEEPPROGRESS_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPPROGRESS_H
+#define VRK_APPS_VRK_SWEEP_SWEEPPROGRESS_H
 
 #include <chrono>
 #include <ostream>
 #include <string>
+
+namespace Sweep {
 
 // Tells how a sweep goes: on a terminal one line, redrawn, of the runs done, failed and
 // running, the time elapsed and an estimate of the time left; elsewhere one plain line
@@ -31,5 +33,7 @@ private:
     std::chrono::steady_clock::time_point start_;
     std::chrono::steady_clock::time_point drawn_;
 };
+
+} // namespace Sweep
 
 #endif

@@ -2,6 +2,8 @@
 
 #include "apps/vrk/sweep/SweepRecorder.h"
 
+namespace Sweep {
+
 SweepRunner::SweepRunner(unsigned int jobs) : jobs_(jobs) {}
 
 bool SweepRunner::hasRoom() const { return running_.size() < jobs_; }
@@ -37,3 +39,5 @@ void SweepRunner::cancel(SweepRecorder& recorder)
     }
     running_.clear();
 }
+
+} // namespace Sweep

@@ -1,10 +1,12 @@
-#ifndef VRK_APPS_VRK_SWEEPRUNNER_H
-#define VRK_APPS_VRK_SWEEPRUNNER_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPRUNNER_H
+#define VRK_APPS_VRK_SWEEP_SWEEPRUNNER_H
 
 #include "apps/vrk/sweep/SweepProcess.h"
 #include "apps/vrk/sweep/SweepSlots.h"
 
 #include <list>
+
+namespace Sweep {
 
 // Runs the jobs of a sweep as child processes of this process, `jobs` at a time.
 class SweepRunner : public SweepSlots {
@@ -21,5 +23,7 @@ private:
     unsigned int jobs_;
     std::list<SweepProcess> running_;
 };
+
+} // namespace Sweep
 
 #endif

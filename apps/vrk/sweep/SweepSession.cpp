@@ -21,7 +21,9 @@
 
 #include <unistd.h>
 
-SweepSession::SweepSession(const SweepCommand::Options& options, std::ostream& out,
+namespace Sweep {
+
+SweepSession::SweepSession(const SweepOptions& options, std::ostream& out,
                            std::ostream& err)
     : options_(options), out_(out), err_(err)
 {
@@ -119,3 +121,5 @@ void SweepSession::schedule(std::deque<SweepJob> waiting, const std::vector<Swee
         for (SweepSlots* place : slots)
             place->cancel(*this);
 }
+
+} // namespace Sweep

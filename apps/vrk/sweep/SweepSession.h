@@ -1,8 +1,8 @@
-#ifndef VRK_APPS_VRK_SWEEPSESSION_H
-#define VRK_APPS_VRK_SWEEPSESSION_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPSESSION_H
+#define VRK_APPS_VRK_SWEEP_SWEEPSESSION_H
 
-#include "apps/vrk/sweep/SweepCommand.h"
 #include "apps/vrk/sweep/SweepJob.h"
+#include "apps/vrk/sweep/SweepOptions.h"
 #include "apps/vrk/sweep/SweepRecorder.h"
 
 #include <deque>
@@ -10,21 +10,23 @@
 #include <ostream>
 #include <vector>
 
+namespace VRK {
+class Task;
+}
+
+namespace Sweep {
+
 class SweepProgress;
 class SweepSlots;
 class SweepSummary;
 class SweepTable;
-
-namespace VRK {
-class Task;
-}
 
 // One sweep as the process that owns its table sees it: it reads and checks the table,
 // hands the rows out to the places that run them and keeps the summary and the
 // progress as the runs end.
 class SweepSession : public SweepRecorder {
 public:
-    SweepSession(const SweepCommand::Options& options, std::ostream& out, std::ostream& err);
+    SweepSession(const SweepOptions& options, std::ostream& out, std::ostream& err);
     ~SweepSession() override;
 
     // Reads the table and applies every row to the model as `--set` would; false, with
@@ -39,7 +41,7 @@ private:
     void schedule(std::deque<SweepJob> waiting, const std::vector<SweepSlots*>& slots,
                   const VRK::Task& task);
 
-    const SweepCommand::Options& options_;
+    const SweepOptions& options_;
     std::ostream& out_;
     std::ostream& err_;
     std::unique_ptr<SweepTable> table_;
@@ -47,5 +49,7 @@ private:
     std::unique_ptr<SweepProgress> progress_;
     bool failed_ = false;
 };
+
+} // namespace Sweep
 
 #endif

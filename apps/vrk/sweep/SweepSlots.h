@@ -1,7 +1,9 @@
-#ifndef VRK_APPS_VRK_SWEEPSLOTS_H
-#define VRK_APPS_VRK_SWEEPSLOTS_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPSLOTS_H
+#define VRK_APPS_VRK_SWEEP_SWEEPSLOTS_H
 
 #include <cstddef>
+
+namespace Sweep {
 
 class SweepRecorder;
 struct SweepJob;
@@ -21,5 +23,7 @@ public:
     // succeeded before it heard of it, which keeps its success.
     virtual void cancel(SweepRecorder& recorder) = 0;
 };
+
+} // namespace Sweep
 
 #endif

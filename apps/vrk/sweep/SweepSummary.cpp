@@ -10,6 +10,8 @@
 #include <fstream>
 #include <iomanip>
 
+namespace Sweep {
+
 SweepSummary::SweepSummary(std::string filename, std::vector<std::string> order)
     : filename_(std::move(filename)), order_(std::move(order))
 {
@@ -68,3 +70,5 @@ void SweepSummary::write() const
         }
     });
 }
+
+} // namespace Sweep

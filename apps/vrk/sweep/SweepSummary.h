@@ -1,9 +1,11 @@
-#ifndef VRK_APPS_VRK_SWEEPSUMMARY_H
-#define VRK_APPS_VRK_SWEEPSUMMARY_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPSUMMARY_H
+#define VRK_APPS_VRK_SWEEP_SWEEPSUMMARY_H
 
 #include <map>
 #include <string>
 #include <vector>
+
+namespace Sweep {
 
 // "summary.csv" of a sweep: one line per finished run, "run,status,seconds,error", in
 // the order of the table. The status is the run's exit status, or "cancelled"; the
@@ -34,5 +36,7 @@ private:
     std::vector<std::string> order_;
     std::map<std::string, Entry> entries_;
 };
+
+} // namespace Sweep
 
 #endif

@@ -12,6 +12,8 @@
 #include <set>
 #include <sstream>
 
+namespace Sweep {
+
 namespace {
 
 const char* const RunColumn = "run";
@@ -111,3 +113,5 @@ void SweepTable::readRow(const std::vector<CsvFields::Field>& fields, int line)
             refuse(filename_, line, runAt, "The run name \"" + row.run + "\" is used twice.");
     rows_.push_back(std::move(row));
 }
+
+} // namespace Sweep

@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_SWEEPTABLE_H
-#define VRK_APPS_VRK_SWEEPTABLE_H
+#ifndef VRK_APPS_VRK_SWEEP_SWEEPTABLE_H
+#define VRK_APPS_VRK_SWEEP_SWEEPTABLE_H
 
 #include "apps/vrk/CsvFields.h"
 
@@ -8,6 +8,8 @@
 
 #include <string>
 #include <vector>
+
+namespace Sweep {
 
 // The table of a sweep: a CSV file whose header names "alias.port" columns, and
 // optionally a "run" column naming each run; every other line is one run. Runs without
@@ -42,5 +44,7 @@ private:
     std::vector<VRK::ScriptPosition> namePositions_;
     std::vector<Row> rows_;
 };
+
+} // namespace Sweep
 
 #endif

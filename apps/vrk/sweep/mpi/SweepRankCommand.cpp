@@ -5,10 +5,12 @@
 #include "apps/vrk/sweep/mpi/SweepRankSlots.h"
 #include "apps/vrk/sweep/mpi/SweepRankWorker.h"
 
-int SweepRankCommand::run(const SweepCommand::Options& options, std::ostream& out,
+namespace Sweep {
+
+int SweepRankCommand::run(const SweepOptions& options, std::ostream& out,
                           std::ostream& err)
 {
-    SweepCommand::Options perRank = options;
+    SweepOptions perRank = options;
     if (perRank.jobs == 0)
         perRank.jobs = 1;
     SweepRankLink link;
@@ -25,3 +27,5 @@ int SweepRankCommand::run(const SweepCommand::Options& options, std::ostream& ou
     ranks.finish(ended);
     return ended;
 }
+
+} // namespace Sweep

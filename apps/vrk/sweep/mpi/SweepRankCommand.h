@@ -1,9 +1,11 @@
-#ifndef VRK_APPS_VRK_MPI_SWEEPRANKCOMMAND_H
-#define VRK_APPS_VRK_MPI_SWEEPRANKCOMMAND_H
+#ifndef VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKCOMMAND_H
+#define VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKCOMMAND_H
 
-#include "apps/vrk/sweep/SweepCommand.h"
+#include "apps/vrk/sweep/SweepOptions.h"
 
 #include <ostream>
+
+namespace Sweep {
 
 // `mpirun -np K vrk sweep MODEL TABLE`: rank 0 reads and checks the table, hands the
 // rows out to every rank as it has room, itself included, and keeps the summary and the
@@ -12,7 +14,9 @@
 class SweepRankCommand {
 public:
     // Returns the exit status, the same on every rank but when a signal cancels one.
-    static int run(const SweepCommand::Options& options, std::ostream& out, std::ostream& err);
+    static int run(const SweepOptions& options, std::ostream& out, std::ostream& err);
 };
+
+} // namespace Sweep
 
 #endif

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <thread>
 
+namespace Sweep {
+
 namespace {
 
 // Each word ends with a NUL, so that no word and one empty word differ.
@@ -91,3 +93,5 @@ void SweepRankLink::forgetSent()
         sending = done ? sending_.erase(sending) : std::next(sending);
     }
 }
+
+} // namespace Sweep

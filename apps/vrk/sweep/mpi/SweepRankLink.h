@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_MPI_SWEEPRANKLINK_H
-#define VRK_APPS_VRK_MPI_SWEEPRANKLINK_H
+#ifndef VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKLINK_H
+#define VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKLINK_H
 
 #include <chrono>
 #include <list>
@@ -7,6 +7,8 @@
 #include <vector>
 
 #include <mpi.h>
+
+namespace Sweep {
 
 // The MPI job of a sweep started by mpirun, set up while the link lives, and the
 // messages its ranks exchange: lists of words, sent without blocking, so that two ranks
@@ -54,5 +56,7 @@ private:
     // A message's bytes must outlive its sending.
     std::list<Sending> sending_;
 };
+
+} // namespace Sweep
 
 #endif

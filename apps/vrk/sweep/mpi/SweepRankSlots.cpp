@@ -5,6 +5,8 @@
 
 #include <cassert>
 
+namespace Sweep {
+
 SweepRankSlots::SweepRankSlots(SweepRankLink& link, unsigned int jobs)
     : link_(link), jobs_(jobs), ranks_(static_cast<size_t>(link.getSize()))
 {
@@ -119,3 +121,5 @@ void SweepRankSlots::end(Rank& rank, const std::string& status, const std::strin
                         {status, std::chrono::duration<double>(now - run.second).count(), error});
     rank.runs.clear();
 }
+
+} // namespace Sweep

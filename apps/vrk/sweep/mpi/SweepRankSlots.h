@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_MPI_SWEEPRANKSLOTS_H
-#define VRK_APPS_VRK_MPI_SWEEPRANKSLOTS_H
+#ifndef VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKSLOTS_H
+#define VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKSLOTS_H
 
 #include "apps/vrk/sweep/SweepSlots.h"
 #include "apps/vrk/sweep/mpi/SweepRankLink.h"
@@ -8,6 +8,8 @@
 #include <map>
 #include <string>
 #include <vector>
+
+namespace Sweep {
 
 // The ranks other than 0 of a sweep's MPI job, as rank 0 sees them: each runs `jobs`
 // runs at a time, sends back each outcome and tells often that it lives, as rank 0
@@ -50,5 +52,7 @@ private:
     Clock::time_point told_;
     bool cancelled_ = false;
 };
+
+} // namespace Sweep
 
 #endif

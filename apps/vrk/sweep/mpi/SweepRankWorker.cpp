@@ -12,6 +12,8 @@
 #include <iostream>
 #include <thread>
 
+namespace Sweep {
+
 namespace {
 
 // No rank runs more than rank 0 sends it, which counts each rank's runs.
@@ -90,3 +92,5 @@ void SweepRankWorker::record(const std::string& run, const SweepSummary::Entry& 
     link_.send(0, SweepRankLink::Tag::Outcome,
                {run, entry.status, std::to_string(entry.seconds), entry.error});
 }
+
+} // namespace Sweep

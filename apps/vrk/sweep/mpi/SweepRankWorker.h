@@ -1,5 +1,5 @@
-#ifndef VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
-#define VRK_APPS_VRK_MPI_SWEEPRANKWORKER_H
+#ifndef VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKWORKER_H
+#define VRK_APPS_VRK_SWEEP_MPI_SWEEPRANKWORKER_H
 
 #include "apps/vrk/sweep/SweepRecorder.h"
 #include "apps/vrk/sweep/mpi/SweepRankLink.h"
@@ -7,6 +7,9 @@
 #include <optional>
 
 class InterruptGuard;
+
+namespace Sweep {
+
 class SweepRunner;
 struct SweepJob;
 
@@ -30,5 +33,7 @@ private:
 
     SweepRankLink& link_;
 };
+
+} // namespace Sweep
 
 #endif
