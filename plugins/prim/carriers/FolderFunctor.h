@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FOLDERFUNCTOR_H
-#define VRK_PLUGINS_PRIM_FOLDERFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_CARRIERS_FOLDERFUNCTOR_H
+#define VRK_PLUGINS_PRIM_CARRIERS_FOLDERFUNCTOR_H
 
 #include "plugins/prim/carriers/DataCarrierFunctor.h"
 #include "plugins/prim/files/FilenameBanneredFunctor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTFUNCTOR_H
-#define VRK_PLUGINS_PRIM_INTFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_CARRIERS_INTFUNCTOR_H
+#define VRK_PLUGINS_PRIM_CARRIERS_INTFUNCTOR_H
 
 #include "plugins/prim/carriers/DataCarrierFunctor.h"
 

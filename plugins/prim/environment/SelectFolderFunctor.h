@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_SELECTFOLDERFUNCTOR_H
-#define VRK_PLUGINS_PRIM_SELECTFOLDERFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_SELECTFOLDERFUNCTOR_H
+#define VRK_PLUGINS_PRIM_ENVIRONMENT_SELECTFOLDERFUNCTOR_H
 
 #include "plugins/prim/environment/NumberedFolderRegistratorType.h"
 #include "plugins/prim/environment/SelectorFunctor.h"

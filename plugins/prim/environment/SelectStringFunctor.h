@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_SELECTSTRINGFUNCTOR_H
-#define VRK_PLUGINS_PRIM_SELECTSTRINGFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_SELECTSTRINGFUNCTOR_H
+#define VRK_PLUGINS_PRIM_ENVIRONMENT_SELECTSTRINGFUNCTOR_H
 
 #include "plugins/prim/environment/NumberedStringRegistratorType.h"
 #include "plugins/prim/environment/SelectorFunctor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FILENAMEDATA_H
-#define VRK_PLUGINS_PRIM_FILENAMEDATA_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FILENAMEDATA_H
+#define VRK_PLUGINS_PRIM_FILES_FILENAMEDATA_H
 
 #include "base/data/BaseData.h"
 #include "plugins/prim/files/CompoundFilename.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FILENAMEEDITOR_H
-#define VRK_PLUGINS_PRIM_FILENAMEEDITOR_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FILENAMEEDITOR_H
+#define VRK_PLUGINS_PRIM_FILES_FILENAMEEDITOR_H
 
 #include "base/data/DataEditor.h"
 #include "plugins/prim/files/CompoundFilename.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FILENAMEVIEWER_H
-#define VRK_PLUGINS_PRIM_FILENAMEVIEWER_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FILENAMEVIEWER_H
+#define VRK_PLUGINS_PRIM_FILES_FILENAMEVIEWER_H
 
 #include "base/data/DataViewer.h"
 #include "plugins/prim/files/CompoundFilename.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FILENAMEDFUNCTOR_H
-#define VRK_PLUGINS_PRIM_FILENAMEDFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FILENAMEDFUNCTOR_H
+#define VRK_PLUGINS_PRIM_FILES_FILENAMEDFUNCTOR_H
 
 #include "plugins/prim/files/CompoundFilename.h"
 #include "plugins/prim/files/FilenameBanneredFunctor.h"

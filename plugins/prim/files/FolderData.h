@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FOLDERDATA_H
-#define VRK_PLUGINS_PRIM_FOLDERDATA_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FOLDERDATA_H
+#define VRK_PLUGINS_PRIM_FILES_FOLDERDATA_H
 
 #include "base/data/Data.h"
 #include "plugins/prim/files/CompoundFilename.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FOLDERTYPE_H
-#define VRK_PLUGINS_PRIM_FOLDERTYPE_H
+#ifndef VRK_PLUGINS_PRIM_FILES_FOLDERTYPE_H
+#define VRK_PLUGINS_PRIM_FILES_FOLDERTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/files/FolderData.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PATHDATA_H
-#define VRK_PLUGINS_PRIM_PATHDATA_H
+#ifndef VRK_PLUGINS_PRIM_FILES_PATHDATA_H
+#define VRK_PLUGINS_PRIM_FILES_PATHDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/files/PathEditor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PATHREADER_H
-#define VRK_PLUGINS_PRIM_PATHREADER_H
+#ifndef VRK_PLUGINS_PRIM_FILES_PATHREADER_H
+#define VRK_PLUGINS_PRIM_FILES_PATHREADER_H
 
 #include "plugins/prim/values/texts/QuotedTextReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PATHTYPE_H
-#define VRK_PLUGINS_PRIM_PATHTYPE_H
+#ifndef VRK_PLUGINS_PRIM_FILES_PATHTYPE_H
+#define VRK_PLUGINS_PRIM_FILES_PATHTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/files/PathData.h"

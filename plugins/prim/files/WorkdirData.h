@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_WORKDIRDATA_H
-#define VRK_PLUGINS_PRIM_WORKDIRDATA_H
+#ifndef VRK_PLUGINS_PRIM_FILES_WORKDIRDATA_H
+#define VRK_PLUGINS_PRIM_FILES_WORKDIRDATA_H
 
 #include "base/data/Data.h"
 #include "base/data/NullType.h"

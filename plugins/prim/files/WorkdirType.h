@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_WORKDIRTYPE_H
-#define VRK_PLUGINS_PRIM_WORKDIRTYPE_H
+#ifndef VRK_PLUGINS_PRIM_FILES_WORKDIRTYPE_H
+#define VRK_PLUGINS_PRIM_FILES_WORKDIRTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/files/WorkdirData.h"

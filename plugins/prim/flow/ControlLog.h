@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_CONTROLLOG_H
-#define VRK_PLUGINS_PRIM_CONTROLLOG_H
+#ifndef VRK_PLUGINS_PRIM_FLOW_CONTROLLOG_H
+#define VRK_PLUGINS_PRIM_FLOW_CONTROLLOG_H
 
 #include "base/log/LogTag.h"
 #include "base/log/Logger.h"

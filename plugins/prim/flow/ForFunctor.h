@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_FORFUNCTOR_H
-#define VRK_PLUGINS_PRIM_FORFUNCTOR_H
+#ifndef VRK_PLUGINS_PRIM_FLOW_FORFUNCTOR_H
+#define VRK_PLUGINS_PRIM_FLOW_FORFUNCTOR_H
 
 #include "base/graph/ContainerFunctor.h"
 

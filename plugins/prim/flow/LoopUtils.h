@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_LOOPUTILS_H
-#define VRK_PLUGINS_PRIM_LOOPUTILS_H
+#ifndef VRK_PLUGINS_PRIM_FLOW_LOOPUTILS_H
+#define VRK_PLUGINS_PRIM_FLOW_LOOPUTILS_H
 
 #include "base/task/Task.h"
 #include "plugins/prim/flow/ControlLog.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PRIMREGISTRAR_H
-#define VRK_PLUGINS_PRIM_PRIMREGISTRAR_H
+#ifndef VRK_PLUGINS_PRIM_REGISTRY_PRIMREGISTRAR_H
+#define VRK_PLUGINS_PRIM_REGISTRY_PRIMREGISTRAR_H
 
 #include "base/data/DataConverter.h"
 #include "base/data/DataEditor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_EDITORCHECKUTILS_H
-#define VRK_PLUGINS_PRIM_EDITORCHECKUTILS_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_EDITORCHECKUTILS_H
+#define VRK_PLUGINS_PRIM_VALUES_EDITORCHECKUTILS_H
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"

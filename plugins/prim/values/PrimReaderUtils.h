@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PRIMREADERUTILS_H
-#define VRK_PLUGINS_PRIM_PRIMREADERUTILS_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_PRIMREADERUTILS_H
+#define VRK_PLUGINS_PRIM_VALUES_PRIMREADERUTILS_H
 
 #include "base/data/DataEditor.h"
 #include "plugins/prim/values/PrimEditorUtils.h"

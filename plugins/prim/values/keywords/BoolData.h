@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_BOOLDATA_H
-#define VRK_PLUGINS_PRIM_BOOLDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/keywords/BoolEditor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_BOOLREADER_H
-#define VRK_PLUGINS_PRIM_BOOLREADER_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLREADER_H
+#define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLREADER_H
 
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_BOOLTYPE_H
-#define VRK_PLUGINS_PRIM_BOOLTYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLTYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/keywords/BoolData.h"

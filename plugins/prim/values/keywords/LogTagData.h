@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_LOGTAGDATA_H
-#define VRK_PLUGINS_PRIM_LOGTAGDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_KEYWORDS_LOGTAGDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_LOGTAGDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/keywords/LogTagEditor.h"

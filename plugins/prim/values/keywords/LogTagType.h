@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_LOGTAGTYPE_H
-#define VRK_PLUGINS_PRIM_LOGTAGTYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_KEYWORDS_LOGTAGTYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_LOGTAGTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/keywords/LogTagData.h"

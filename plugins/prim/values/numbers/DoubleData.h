@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_DOUBLEDATA_H
-#define VRK_PLUGINS_PRIM_DOUBLEDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_DOUBLEDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_DOUBLEDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/numbers/DoubleEditor.h"

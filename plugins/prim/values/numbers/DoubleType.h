@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_DOUBLETYPE_H
-#define VRK_PLUGINS_PRIM_DOUBLETYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_DOUBLETYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_DOUBLETYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/numbers/DoubleData.h"

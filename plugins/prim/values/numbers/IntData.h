@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTDATA_H
-#define VRK_PLUGINS_PRIM_INTDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/numbers/DoubleData.h"

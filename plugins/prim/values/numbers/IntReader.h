@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTREADER_H
-#define VRK_PLUGINS_PRIM_INTREADER_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTREADER_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTREADER_H
 
 #include "plugins/prim/values/numbers/NumberReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTSETDATA_H
-#define VRK_PLUGINS_PRIM_INTSETDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/numbers/IntSetEditor.h"

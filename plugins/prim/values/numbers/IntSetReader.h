@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTSETREADER_H
-#define VRK_PLUGINS_PRIM_INTSETREADER_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETREADER_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETREADER_H
 
 #include "base/data/DataReader.h"
 #include "base/parse/ScannerTypes.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTSETTYPE_H
-#define VRK_PLUGINS_PRIM_INTSETTYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETTYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/numbers/IntSetData.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_INTTYPE_H
-#define VRK_PLUGINS_PRIM_INTTYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTTYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/numbers/DoubleType.h"

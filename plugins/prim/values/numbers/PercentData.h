@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_PERCENTDATA_H
-#define VRK_PLUGINS_PRIM_PERCENTDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_PERCENTDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_PERCENTDATA_H
 
 #include "plugins/prim/values/numbers/DoubleData.h"
 #include "plugins/prim/values/numbers/PercentEditor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_POSITIVEINTDATA_H
-#define VRK_PLUGINS_PRIM_POSITIVEINTDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_POSITIVEINTDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_NUMBERS_POSITIVEINTDATA_H
 
 #include "plugins/prim/values/numbers/IntData.h"
 #include "plugins/prim/values/numbers/PositiveIntEditor.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_NAMEDATA_H
-#define VRK_PLUGINS_PRIM_NAMEDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMEDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMEDATA_H
 
 #include "plugins/prim/values/texts/NameEditor.h"
 #include "plugins/prim/values/texts/StringData.h"

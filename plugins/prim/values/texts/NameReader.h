@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_NAMEREADER_H
-#define VRK_PLUGINS_PRIM_NAMEREADER_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMEREADER_H
+#define VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMEREADER_H
 
 #include "plugins/prim/values/texts/QuotedTextReader.h"
 

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_NAMETYPE_H
-#define VRK_PLUGINS_PRIM_NAMETYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMETYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_TEXTS_NAMETYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/texts/NameData.h"

@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_STRINGDATA_H
-#define VRK_PLUGINS_PRIM_STRINGDATA_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_STRINGDATA_H
+#define VRK_PLUGINS_PRIM_VALUES_TEXTS_STRINGDATA_H
 
 #include "base/data/PrimData.h"
 #include "plugins/prim/values/texts/StringEditor.h"

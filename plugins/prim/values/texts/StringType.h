@@ -1,5 +1,5 @@
-#ifndef VRK_PLUGINS_PRIM_STRINGTYPE_H
-#define VRK_PLUGINS_PRIM_STRINGTYPE_H
+#ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_STRINGTYPE_H
+#define VRK_PLUGINS_PRIM_VALUES_TEXTS_STRINGTYPE_H
 
 #include "base/data/TypeShim.h"
 #include "plugins/prim/values/texts/StringData.h"
