@@ -174,7 +174,7 @@ Operand BlockProgramCompiler::compileNode(const ImageExpression& node)
         return compileCellNode(node);
     if (isNamed(node, "Value"))
         return {true, program_->addConstant(
-                          static_cast<const _ImageExpression::Value&>(node).getValue())};
+                          static_cast<const Nodes::Value&>(node).getValue())};
     return {true, program_->addScalar(node)};
 }
 
@@ -221,7 +221,7 @@ Operand BlockProgramCompiler::compileCellNode(const ImageExpression& node)
         const Operand line = compileNode(node.getChild(0));
         const Operand column = compileNode(node.getChild(1));
         const Operand result = newRegister(slot);
-        const int image = static_cast<const _ImageExpression::ImageValue2&>(node).getImage();
+        const int image = static_cast<const Nodes::ImageValue2&>(node).getImage();
         program_->addStep(std::make_unique<ImageCellStep>(image, line, column, slot));
         release(line);
         release(column);

@@ -9,7 +9,7 @@
 #include <limits>
 
 namespace Tessaly {
-namespace _ImageExpression {
+namespace Nodes {
 
 // i[line, column]: the image at a computed cell, the coordinates rounded down; null
 // outside the image.
@@ -58,7 +58,7 @@ public:
     const char* getName() const override { return "IfThenElse"; }
 };
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly
 
 #endif

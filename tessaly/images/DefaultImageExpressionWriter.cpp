@@ -45,7 +45,7 @@ public:
             out_ << ')';
     }
 
-    void visit(const _ImageExpression::Value& node) override
+    void visit(const Nodes::Value& node) override
     {
         out_ << DefaultImageExpressionWriter::formatReal(node.getValue());
     }
@@ -62,7 +62,7 @@ public:
             out_ << function << '(' << name << ')';
     }
 
-    void visit(const _ImageExpression::TableNamedValue& node) override
+    void visit(const Nodes::TableNamedValue& node) override
     {
         out_ << entity(EntityKind::Table, node.getIndex()) << "[\"" << node.getKeyName() << "\"]";
     }
@@ -110,7 +110,7 @@ public:
         }
     }
 
-    void visit(const _ImageExpression::ImageValue2& node) override
+    void visit(const Nodes::ImageValue2& node) override
     {
         out_ << entity(EntityKind::Image, node.getImage()) << '[';
         write(node.getLeft(), false, true);
@@ -119,7 +119,7 @@ public:
         out_ << ']';
     }
 
-    void visit(const _ImageExpression::IfThenElse& node) override
+    void visit(const Nodes::IfThenElse& node) override
     {
         const bool parenthesised = !closed_;
         if (parenthesised)
@@ -138,7 +138,7 @@ public:
     {
         out_ << spelling(node) << '(' << entity(EntityKind::Image, node.getImage()) << ", ";
         if (const auto* convolution =
-                dynamic_cast<const _ImageExpression::NeighborhoodConvolution*>(&node))
+                dynamic_cast<const Nodes::NeighborhoodConvolution*>(&node))
             out_ << entity(EntityKind::Table, convolution->getTable()) << ", ";
         arguments({&node.getChild(0), &node.getChild(1), &node.getChild(2), &node.getChild(3)},
                   false);

@@ -147,7 +147,7 @@ TESSALY_BINARY(Minimum, return eitherNull(a, b) ? Null : std::fmin(a, b);)
 
 } // namespace Ops
 
-namespace _ImageExpression {
+namespace Nodes {
 
 using Rand = NullaryFunction<Ops::Rand>;
 using Abort = NullaryFunction<Ops::Abort>;
@@ -209,7 +209,7 @@ protected:
     }
 };
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly
 
 #endif

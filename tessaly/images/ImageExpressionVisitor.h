@@ -9,12 +9,12 @@ class UnaryExpression;
 class BinaryExpression;
 class TableExpression;
 class NeighborhoodQuaternaryExpression;
-namespace _ImageExpression {
+namespace Nodes {
 class Value;
 class ImageValue2;
 class IfThenElse;
 class TableNamedValue;
-} // namespace _ImageExpression
+} // namespace Nodes
 
 // Visits a node by its shape; nodes of one shape differ by their name.
 class ImageExpressionVisitor {
@@ -24,15 +24,15 @@ public:
     ImageExpressionVisitor& operator=(const ImageExpressionVisitor&) = default;
     virtual ~ImageExpressionVisitor();
 
-    virtual void visit(const _ImageExpression::Value& node) = 0;
+    virtual void visit(const Nodes::Value& node) = 0;
     virtual void visit(const NullaryExpression& node) = 0;
     virtual void visit(const IndexedExpression& node) = 0;
-    virtual void visit(const _ImageExpression::TableNamedValue& node) = 0;
+    virtual void visit(const Nodes::TableNamedValue& node) = 0;
     virtual void visit(const UnaryExpression& node) = 0;
     virtual void visit(const TableExpression& node) = 0;
     virtual void visit(const BinaryExpression& node) = 0;
-    virtual void visit(const _ImageExpression::ImageValue2& node) = 0;
-    virtual void visit(const _ImageExpression::IfThenElse& node) = 0;
+    virtual void visit(const Nodes::ImageValue2& node) = 0;
+    virtual void visit(const Nodes::IfThenElse& node) = 0;
     virtual void visit(const NeighborhoodQuaternaryExpression& node) = 0;
 };
 

@@ -10,7 +10,7 @@
 #include <string>
 
 namespace Tessaly {
-namespace _ImageExpression {
+namespace Nodes {
 
 // A number written in the formula.
 class Value : public ImageExpression {
@@ -89,7 +89,7 @@ private:
     std::string keyName_;
 };
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly
 
 #endif

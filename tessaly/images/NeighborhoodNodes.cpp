@@ -102,7 +102,7 @@ double NeighborhoodStdDeviation::apply(std::vector<double>& values)
 
 } // namespace Ops
 
-namespace _ImageExpression {
+namespace Nodes {
 
 double NeighborhoodConvolution::evaluate(const EvaluationContext& context) const
 {
@@ -119,5 +119,5 @@ double NeighborhoodConvolution::evaluate(const EvaluationContext& context) const
     return any ? sum : Ops::Null;
 }
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly

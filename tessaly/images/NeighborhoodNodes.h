@@ -45,7 +45,7 @@ TESSALY_STATISTIC(NeighborhoodStdDeviation)
 
 } // namespace Ops
 
-namespace _ImageExpression {
+namespace Nodes {
 
 using NeighborhoodCount = NeighborhoodStatistic<Ops::NeighborhoodCount>;
 using NeighborhoodSum = NeighborhoodStatistic<Ops::NeighborhoodSum>;
@@ -80,7 +80,7 @@ private:
     int table_;
 };
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly
 
 #endif

@@ -42,7 +42,7 @@ struct TableHasKey {
 
 } // namespace Ops
 
-namespace _ImageExpression {
+namespace Nodes {
 
 using TableValue = TableLookup<Ops::TableValue>;
 using TableEqualLowerBoundValue = TableLookup<Ops::TableEqualLowerBoundValue>;
@@ -53,7 +53,7 @@ using TableClosestValue = TableLookup<Ops::TableClosestValue>;
 using TableInterpoledValue = TableLookup<Ops::TableInterpoledValue>;
 using TableHasKey = TableLookup<Ops::TableHasKey>;
 
-} // namespace _ImageExpression
+} // namespace Nodes
 } // namespace Tessaly
 
 #endif

@@ -25,7 +25,7 @@ public:
 
 // A number that counts how often a compilation asks it whether it needs the cell's
 // place: once per compilation of the formula it is the root of.
-class CountingValue : public Tessaly::_ImageExpression::Value {
+class CountingValue : public Tessaly::Nodes::Value {
 public:
     CountingValue() : Value(1) {}
     bool needsOwnCell() const override

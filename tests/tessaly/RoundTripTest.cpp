@@ -14,7 +14,7 @@
 namespace Tessaly {
 namespace {
 
-using namespace _ImageExpression;
+using namespace Nodes;
 using Testing::readFormula;
 using Testing::treeText;
 using Testing::writeFormula;

@@ -22,20 +22,20 @@ namespace Testing {
 // "Minus(Minus(i1,i2),#a)".
 inline std::string treeText(const ImageExpression& node, const ImageExpressionDictionary& names)
 {
-    if (const auto* value = dynamic_cast<const _ImageExpression::Value*>(&node))
+    if (const auto* value = dynamic_cast<const Nodes::Value*>(&node))
         return DefaultImageExpressionWriter::formatReal(value->getValue());
     std::string text = node.getName();
     if (const auto* indexed = dynamic_cast<const IndexedExpression*>(&node))
         text += ":" + names.getSpelling(indexed->getKind(), indexed->getIndex());
-    if (const auto* named = dynamic_cast<const _ImageExpression::TableNamedValue*>(&node))
+    if (const auto* named = dynamic_cast<const Nodes::TableNamedValue*>(&node))
         text += ":" + named->getKeyName();
     if (const auto* lookup = dynamic_cast<const TableExpression*>(&node))
         text += ":" + names.getSpelling(EntityKind::Table, lookup->getTable());
-    if (const auto* at = dynamic_cast<const _ImageExpression::ImageValue2*>(&node))
+    if (const auto* at = dynamic_cast<const Nodes::ImageValue2*>(&node))
         text += ":" + names.getSpelling(EntityKind::Image, at->getImage());
     if (const auto* window = dynamic_cast<const NeighborhoodQuaternaryExpression*>(&node))
         text += ":" + names.getSpelling(EntityKind::Image, window->getImage());
-    if (const auto* convolution = dynamic_cast<const _ImageExpression::NeighborhoodConvolution*>(&node))
+    if (const auto* convolution = dynamic_cast<const Nodes::NeighborhoodConvolution*>(&node))
         text += ":" + names.getSpelling(EntityKind::Table, convolution->getTable());
     if (node.getChildCount() == 0)
         return text;

@@ -20,7 +20,7 @@ namespace Prim {
 
 namespace {
 
-namespace E = Tessaly::_ImageExpression;
+namespace E = Tessaly::Nodes;
 
 } // namespace
 
