@@ -10,7 +10,9 @@
 #include "plugins/maps/MapType.h"
 #include "plugins/maps/TemporaryMapFile.h"
 #include "plugins/prim/formula/ImageExpressionData.h"
+#include "plugins/prim/formula/ImageExpressionEditor.h"
 #include "plugins/prim/formula/ImageExpressionType.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
 #include "tessaly/images/ImageCalculator.h"
 #include "tessaly/raster/MemoryBudget.h"
 #include "tessaly/raster/MemoryRasterSource.h"
@@ -34,13 +36,14 @@ MapCalculationFunctor::MapCalculationFunctor(const std::string& name,
     : VRK::ContainerFunctor(name, description, nullptr), cellType_(cellType),
       namedImage_(namedImage)
 {
-    // Optional: left out, the formula is the editor's default for the functor (i1, #image,
-    // t1[line], %table[line]).
-    addOptionalInputPort(
+    // Optional: left out, the formula reads the first map.
+    auto formula = addOptionalInputPort(
         ExpressionPort,
         "The formula, over numbered (i1, t1, v1) and named (#map, %table, $value) maps, "
         "tables and values.",
         Prim::ImageExpressionType::getInstance(), false, 0);
+    Prim::PrimEditorUtils::editorOf<Prim::ImageExpressionEditor>(formula.get())
+        .setDefaultFormula(namedImage ? "#image" : "i1");
     if (namedImage)
         addInputPort(ImagePort, "The map that the formula names #image.", MapType::getInstance(),
                      false);

@@ -6,7 +6,9 @@
 #include "base/task/Task.h"
 #include "plugins/maps/CalculationEnvironment.h"
 #include "plugins/prim/formula/ImageExpressionData.h"
+#include "plugins/prim/formula/ImageExpressionEditor.h"
 #include "plugins/prim/formula/ImageExpressionType.h"
+#include "plugins/prim/values/PrimEditorUtils.h"
 #include "tessaly/images/EvaluationContext.h"
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
@@ -57,13 +59,14 @@ TableCalculationFunctor::TableCalculationFunctor(const std::string& name,
                                                  const std::string& description, bool namedTable)
     : VRK::ContainerFunctor(name, description, nullptr), namedTable_(namedTable)
 {
-    // Optional: left out, the formula is the editor's default for the functor (i1, #image,
-    // t1[line], %table[line]).
-    addOptionalInputPort(
+    // Optional: left out, the formula reads the first table.
+    auto formula = addOptionalInputPort(
         ExpressionPort,
         "The formula, over numbered (t1, v1) and named (%table, $value) tables and "
         "values; line stands for the key.",
         Prim::ImageExpressionType::getInstance(), false, 0);
+    Prim::PrimEditorUtils::editorOf<Prim::ImageExpressionEditor>(formula.get())
+        .setDefaultFormula(namedTable ? "%table[line]" : "t1[line]");
     if (namedTable)
         addInputPort(TablePort, "The table whose keys the result has; the formula names it %table.",
                      Tessaly::LookupTableType::getInstance(), false);

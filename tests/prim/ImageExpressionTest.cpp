@@ -1,5 +1,4 @@
 #include "base/error/IllegalDataException.h"
-#include "base/graph/Functor.h"
 #include "plugins/prim/formula/ImageExpressionData.h"
 #include "plugins/prim/formula/ImageExpressionEditor.h"
 #include "plugins/prim/formula/ImageExpressionReader.h"
@@ -16,13 +15,6 @@ namespace {
 
 using namespace Prim;
 
-// A functor that stands for a calculating functor of the given name, to own an editor.
-class NamedFunctor : public VRK::Functor {
-public:
-    explicit NamedFunctor(const std::string& name) : VRK::Functor(name, "", nullptr) {}
-    void runImpl() override {}
-};
-
 // A number that counts how often a compilation asks it whether it needs the cell's
 // place: once per compilation of the formula it is the root of.
 class CountingValue : public Tessaly::Nodes::Value {
@@ -36,11 +28,8 @@ public:
     mutable int asked = 0;
 };
 
-std::string prepared(const std::string& functorName)
+std::string prepared(ImageExpressionEditor& editor)
 {
-    NamedFunctor owner(functorName);
-    ImageExpressionEditor editor;
-    editor.setOwner(&owner);
     editor.prepare();
     return editor.getImageExpressionAsString();
 }
@@ -52,30 +41,23 @@ std::string written(const ImageExpressionEditor& editor, int indent)
     return out.str();
 }
 
-TEST(ImageExpressionEditorTest, PrepareGivesTheDefaultOfTheOwningFunctor)
+// The default that the owning functor gave, else 0, and a copy of the editor keeps it.
+TEST(ImageExpressionEditorTest, PrepareGivesTheDefaultThatTheOwnerGave)
 {
-    const struct {
-        const char* functor;
-        const char* formula;
-    } cases[] = {
-        {"CalculateLookupTable", "t1[line]"},
-        {"CalculateLookupTable2", "%table[line]"},
-        {"CalculateMap", "i1"},
-        {"CalculateCategoricalMap", "i1"},
-        {"CalculateMap2", "#image"},
-        {"CalculateCategoricalMap2", "#image"},
-        {"CalculateValue", "0"},
-        {"calculatemap", "0"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(prepared(c.functor), c.formula) << c.functor;
+    ImageExpressionEditor plain;
+    EXPECT_EQ(prepared(plain), "0");
+
+    ImageExpressionEditor table;
+    table.setDefaultFormula("%table[line]");
+    ImageExpressionEditor copy(table);
+    EXPECT_EQ(prepared(table), "%table[line]");
+    EXPECT_EQ(prepared(copy), "%table[line]");
 }
 
 TEST(ImageExpressionEditorTest, TextIsReadWrittenAndRefusedWithoutLosingTheFormula)
 {
-    NamedFunctor owner("CalculateMap2");
     ImageExpressionEditor editor;
-    editor.setOwner(&owner);
+    editor.setDefaultFormula("#image");
     editor.setImageExpressionAsString("if  v1>2 then (v1-1)-(2-$r) else t1[/v1]");
     const std::string text = editor.getImageExpressionAsString();
     EXPECT_EQ(text, "if v1 > 2 then v1 - 1 - (2 - $r) else t1[/v1]");

@@ -2,27 +2,16 @@
 
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"
-#include "base/graph/Functor.h"
 #include "base/parse/ParseError.h"
 #include "plugins/prim/formula/ImageExpressionType.h"
 #include "plugins/prim/values/DataCast.h"
-#include "tessaly/images/CompoundNodes.h"
 #include "tessaly/images/DefaultImageExpressionReader.h"
 #include "tessaly/images/DefaultImageExpressionWriter.h"
-#include "tessaly/images/FunctionNodes.h"
-#include "tessaly/images/LeafNodes.h"
-#include "tessaly/images/TableNodes.h"
 
 #include <cassert>
 #include <sstream>
 
 namespace Prim {
-
-namespace {
-
-namespace E = Tessaly::Nodes;
-
-} // namespace
 
 ImageExpressionEditor::ImageExpressionEditor()
     : VRK::BaseImageExpressionEditor("ImageExpressionEditor",
@@ -36,7 +25,7 @@ ImageExpressionEditor::~ImageExpressionEditor() = default;
 void ImageExpressionEditor::prepare()
 {
     if (!m_expression)
-        setImageExpression(getDefaultExpression());
+        setImageExpressionAsString(defaultFormula_);
 }
 
 void ImageExpressionEditor::packData()
@@ -100,36 +89,6 @@ void ImageExpressionEditor::compile()
     assert(m_expression != 0 && "m_expression != 0");
     m_expression->compile();
     needsCompiling_ = false;
-}
-
-// The named variants read the port named "image" or "table"; the index of the first
-// entry of a fresh dictionary is 1.
-ImageExpressionEditor::ExpressionPtr ImageExpressionEditor::getDefaultExpression() const
-{
-    const VRK::Functor* functor = getOwner();
-    assert(functor != 0 && "functor != 0");
-    const auto dictionary = std::make_shared<Tessaly::ImageExpressionDictionary>();
-    assert(dictionary != 0 && "dictionary != 0");
-    const Tessaly::ImageExpressionDictionary::Position here;
-    const std::string& name = functor->getName();
-    Tessaly::ImageExpressionPtr root;
-    if (name == "CalculateLookupTable" || name == "CalculateLookupTable2") {
-        if (name == "CalculateLookupTable")
-            dictionary->addTableId(1, here);
-        else
-            dictionary->addTableName("table", here);
-        root = std::make_shared<E::TableValue>(1, std::make_shared<E::Line>());
-    } else if (name == "CalculateMap" || name == "CalculateCategoricalMap") {
-        dictionary->addImageId(1, here);
-        root = std::make_shared<E::ImageValue>(1);
-    } else if (name == "CalculateMap2" || name == "CalculateCategoricalMap2") {
-        dictionary->addImageName("image", here);
-        root = std::make_shared<E::ImageValue>(1);
-    } else {
-        root = std::make_shared<E::Value>(0.0);
-    }
-    assert(root != 0 && "expression != 0");
-    return std::make_shared<Tessaly::TopLevelImageExpression>(root, dictionary, false);
 }
 
 } // namespace Prim

@@ -9,8 +9,8 @@
 
 namespace Prim {
 
-// Holds one parsed formula. Until one is set, `prepare` supplies a default that suits
-// the calculating functor owning the port: the image or table it reads first, else 0.
+// Holds one parsed formula. Until one is set, `prepare` supplies the default formula
+// that the functor owning the port gave (the image or table it reads first), else 0.
 class ImageExpressionEditor : public VRK::BaseImageExpressionEditor {
 public:
     using ExpressionPtr = std::shared_ptr<Tessaly::TopLevelImageExpression>;
@@ -35,11 +35,12 @@ public:
     void setImageExpressionAsString(const std::string& text);
     // Compiles once per replacement of the formula.
     void compile();
+    // The formula that `prepare` sets while none is; it must be one.
+    void setDefaultFormula(const std::string& text) { defaultFormula_ = text; }
 
 private:
-    ExpressionPtr getDefaultExpression() const;
-
     ExpressionPtr m_expression;
+    std::string defaultFormula_ = "0";
     bool needsCompiling_ = false;
 };
 
