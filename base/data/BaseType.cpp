@@ -69,4 +69,6 @@ std::shared_ptr<DataEditor> BaseType::createEditor() const { return nullptr; }
 
 std::shared_ptr<DataViewer> BaseType::createViewer() const { return nullptr; }
 
+bool BaseType::isWorkdir() const { return false; }
+
 } // namespace VRK

@@ -35,6 +35,9 @@ public:
     // The editor and viewer of this type's data; empty where the type has none.
     virtual std::shared_ptr<DataEditor> createEditor() const;
     virtual std::shared_ptr<DataViewer> createViewer() const;
+    // Whether an input "workdir" of this type that a script leaves unbound takes the
+    // work directory of its enclosing containers (see WorkdirBinding); false by default.
+    virtual bool isWorkdir() const;
 
     // Every type that exists in the process, in order of creation.
     static std::vector<const BaseType*> getAllTypes();

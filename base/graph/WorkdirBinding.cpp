@@ -8,13 +8,11 @@ namespace VRK {
 
 namespace {
 const char* const WorkdirPortName = "workdir";
-const char* const WorkdirTypeName = "Workdir";
 } // namespace
 
 bool WorkdirBinding::isWorkdirPort(const InputPort& port)
 {
-    return port.getName() == WorkdirPortName && port.getType()
-           && port.getType()->getName() == WorkdirTypeName;
+    return port.getName() == WorkdirPortName && port.getType() && port.getType()->isWorkdir();
 }
 
 OutputPort* WorkdirBinding::findImplicitPeer(const InputPort& port)

@@ -8,8 +8,8 @@ class FunctorContainer;
 class InputPort;
 class OutputPort;
 
-// A functor that reads or writes files has an input "workdir" of type Workdir that
-// modellers leave unbound: the host binds it to the internal output "workdir" of the
+// A functor that reads or writes files has an input "workdir", of a type that says it is
+// a work directory (`BaseType::isWorkdir`), that modellers leave unbound: the host binds it to the internal output "workdir" of the
 // nearest enclosing container that has one. Scripts never spell these bindings out.
 class WorkdirBinding {
 public:

@@ -155,9 +155,13 @@ void WorkdirBox::runImpl()
     ContainerFunctor::runImpl();
 }
 
-WorkdirReader::WorkdirReader() : Functor("WorkdirReader", "Reads the work directory", nullptr)
+WorkdirReader::WorkdirReader(bool typed)
+    : Functor("WorkdirReader", "Reads the work directory", nullptr)
 {
-    addOptionalInputPort("workdir", "Bound by the host", EngineWorkdirType::getInstance(), true, 0);
+    std::shared_ptr<VRK::BaseType> type = EngineWorkdirType::getInstance();
+    if (!typed)
+        type = NumberType::getInstance();
+    addOptionalInputPort("workdir", "Bound by the host", type, true, 0);
 }
 
 void WorkdirReader::runImpl()

@@ -30,10 +30,11 @@ public:
     NumberType() : TypeShim("EngineNumber", "A number of the engine tests") {}
 };
 
-// Named as the host expects work-directory ports to be typed.
+// A work directory, as the host binds work-directory ports.
 class EngineWorkdirType : public VRK::TypeShim<EngineWorkdirType, NumberData> {
 public:
-    EngineWorkdirType() : TypeShim("Workdir", "A work directory of the engine tests") {}
+    EngineWorkdirType() : TypeShim("EngineWorkdir", "A work directory of the engine tests") {}
+    bool isWorkdir() const override { return true; }
 };
 
 // What the functors saw, in the order they saw it; shared by every thread.
@@ -107,10 +108,11 @@ private:
     double value_;
 };
 
-// Journals "<alias> in <workdir>" from its unbound "workdir" input.
+// Journals "<alias> in <workdir>" from its unbound "workdir" input, which is of a
+// work-directory type unless `typed` is false.
 class WorkdirReader : public VRK::Functor {
 public:
-    WorkdirReader();
+    explicit WorkdirReader(bool typed = true);
     void runImpl() override;
 };
 

@@ -144,15 +144,18 @@ TEST_F(RunEngine, NothingOfAnEarlierPassLeaksIntoTheNext)
     EXPECT_EQ(run(), "five p=5 p=none five p=5");
 }
 
+// Whether an input "workdir" takes a work directory is for its type to say, whatever
+// the type is called.
 TEST_F(RunEngine, WorkdirInputsTakeTheNearestEnclosingWorkdir)
 {
     add<WorkdirReader>(script, "outside");
     auto& first = add<WorkdirBox>(script, "first", 1.0);
     add<WorkdirReader>(first, "r1");
+    add<WorkdirReader>(first, "number", false);
     auto& second = add<WorkdirBox>(first, "second", 2.0);
     auto& loop = add<Loop>(second, "loop", 1);
     add<WorkdirReader>(loop, "r2");
-    EXPECT_EQ(run(), "outside in none r1 in 1 r2 in 2");
+    EXPECT_EQ(run(), "outside in none r1 in 1 number in none r2 in 2");
 }
 
 TEST_F(RunEngine, HooksAreNotRunButReceiveTheirInputs)

@@ -55,6 +55,7 @@ public:
 class WorkdirType : public VRK::TypeShim<WorkdirType, WorkdirData> {
 public:
     WorkdirType() : TypeShim("Workdir", "A work directory for tests") {}
+    bool isWorkdir() const override { return true; }
 };
 
 template <class T>

@@ -6,4 +6,7 @@ WorkdirType::WorkdirType() : VRK::TypeShim<WorkdirType, WorkdirData>("Workdir", 
 
 WorkdirType::~WorkdirType() = default;
 
+// Functors that read or write files take it from their enclosing `Workdir`.
+bool WorkdirType::isWorkdir() const { return true; }
+
 } // namespace Prim

@@ -10,6 +10,8 @@ class WorkdirType : public VRK::TypeShim<WorkdirType, WorkdirData> {
 public:
     WorkdirType();
     ~WorkdirType() override;
+
+    bool isWorkdir() const override;
 };
 
 } // namespace Prim
