@@ -9,10 +9,10 @@
 #include "base/run/LightFunctorScheduler.h"
 #include "base/run/LightRunGuard.h"
 #include "base/run/RunContext.h"
-#include "base/script/ScriptVerifier.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/StackExtender.h"
 #include "base/task/Task.h"
+#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 #include <algorithm>
 #include <cassert>
@@ -21,8 +21,6 @@
 namespace VRK {
 
 namespace {
-
-const char* const RunVerifierName = "NonIntrusiveScriptVerifier";
 
 // Empties every port inside `container`, feedback ports and internal ports included.
 void emptyPorts(const FunctorContainer& container)
@@ -126,7 +124,7 @@ void Script::runTopLevel(Task& task, const FunctorScheduler& scheduler)
 void Script::verify()
 {
     WorkdirBinding::bindAll(*this);
-    FactoryFarmManager::Instance().getScriptVerifierFactory()->create(RunVerifierName)->verify(this);
+    NonIntrusiveScriptVerifier().verify(this);
 }
 
 void Script::runLight(Functor* functor)

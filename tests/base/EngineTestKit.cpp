@@ -8,7 +8,6 @@
 #include "base/run/ParallelFunctorScheduler.h"
 #include "base/run/SequentialFunctorScheduler.h"
 #include "base/task/Task.h"
-#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 #include <chrono>
 #include <sstream>
@@ -238,11 +237,6 @@ VRK::FunctorScheduler* cloneScheduler(const VRK::FunctorScheduler* model)
     return new T(dynamic_cast<const T&>(*model));
 }
 
-std::shared_ptr<VRK::ScriptVerifier> createVerifier()
-{
-    return std::make_shared<VRK::NonIntrusiveScriptVerifier>();
-}
-
 } // namespace
 
 void registerRunServices()
@@ -259,9 +253,6 @@ void registerRunServices()
                          &cloneScheduler<VRK::LightFunctorScheduler>);
         clones->Register(typeid(VRK::AutoFunctorScheduler),
                          &cloneScheduler<VRK::AutoFunctorScheduler>);
-        auto verifiers = farm.getScriptVerifierFactory();
-        if (!verifiers->isRegistered("NonIntrusiveScriptVerifier"))
-            verifiers->register_("Test", "NonIntrusiveScriptVerifier", &createVerifier);
     });
 }
 

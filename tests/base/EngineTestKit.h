@@ -151,8 +151,7 @@ private:
     int patience_;
 };
 
-// Registers the four schedulers' cloners and the verifier that runs use, as the
-// plugins would.
+// Registers the cloners of the four schedulers that runs use, as the plugins would.
 void registerRunServices();
 
 // Adds a functor of class T, made with `arguments`, to `container` under `alias`.

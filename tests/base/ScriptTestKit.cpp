@@ -14,6 +14,7 @@
 #include "base/parse/ScannerTypes.h"
 #include "base/parse/TransducedAssertiveParser.h"
 #include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/ServiceCreators.h"
 #include "base/script/text/DefaultScriptReader.h"
 #include "base/script/text/DefaultScriptWriter.h"
 #include "tests/support/ScriptText.h"
@@ -277,12 +278,6 @@ VRK::DataWriter* createWriter(const VRK::DataEditor* editor)
     return new ValueWriter<T>(editor);
 }
 
-template <class Abstract, class T>
-std::shared_ptr<Abstract> createShared()
-{
-    return std::make_shared<T>();
-}
-
 template <class T>
 void registerFunctor(const std::string& name, const std::vector<std::string>& aliases = {})
 {
@@ -328,9 +323,11 @@ void registerScriptTestKit()
         registerFunctor<TestWorkdir>("TestWorkdir");
         auto& farm = VRK::FactoryFarmManager::Instance();
         farm.getScriptReaderFactory()->register_(
-            "Test", ".vrk", &createShared<VRK::ScriptReader, VRK::DefaultScriptReader>);
+            "Test", ".vrk",
+            &VRK::ServiceCreators::create<VRK::ScriptReader, VRK::DefaultScriptReader>);
         farm.getScriptWriterFactory()->register_(
-            "Test", ".vrk", &createShared<VRK::ScriptWriter, VRK::DefaultScriptWriter>);
+            "Test", ".vrk",
+            &VRK::ServiceCreators::create<VRK::ScriptWriter, VRK::DefaultScriptWriter>);
     });
 }
 

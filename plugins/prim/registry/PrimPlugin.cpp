@@ -1,20 +1,8 @@
 #include "plugins/prim/registry/PrimRegistrar.h"
 
 #include "base/parse/ScannerTypes.h"
+#include "base/plugin/HostServices.h"
 #include "base/plugin/Plugin.h"
-#include "base/run/AutoFunctorScheduler.h"
-#include "base/run/LightFunctorScheduler.h"
-#include "base/run/ParallelFunctorScheduler.h"
-#include "base/run/SequentialFunctorScheduler.h"
-#include "base/script/dot/GraphvizScriptWriter.h"
-#include "base/script/text/DefaultScriptReader.h"
-#include "base/script/text/DefaultScriptWriter.h"
-#include "base/script/text/DefaultWizardReader.h"
-#include "base/script/text/DefaultWizardWriter.h"
-#include "base/script/xml/XMLScriptReader.h"
-#include "base/script/xml/XMLScriptWriter.h"
-#include "base/verify/IntrusiveScriptVerifier.h"
-#include "base/verify/NonIntrusiveScriptVerifier.h"
 #include "plugins/prim/carriers/BoolFunctor.h"
 #include "plugins/prim/carriers/DoubleFunctor.h"
 #include "plugins/prim/carriers/FolderFunctor.h"
@@ -124,24 +112,10 @@ namespace Prim {
 
 namespace {
 
+// The host's services come first, under the plugin's own group.
 void registerHostServices(PrimRegistrar& registrar)
 {
-    registrar.registerFunctorScheduler<VRK::AutoFunctorScheduler>("AutoFunctorScheduler", "Prim");
-    registrar.registerFunctorScheduler<VRK::LightFunctorScheduler>("LightFunctorScheduler", "Prim");
-    registrar.registerFunctorScheduler<VRK::ParallelFunctorScheduler>("ParallelFunctorScheduler",
-                                                                      "Prim");
-    registrar.registerFunctorScheduler<VRK::SequentialFunctorScheduler>(
-        "SequentialFunctorScheduler", "Prim");
-    registrar.registerScriptVerifier<VRK::IntrusiveScriptVerifier>("IntrusiveScriptVerifier", "Prim");
-    registrar.registerScriptVerifier<VRK::NonIntrusiveScriptVerifier>("NonIntrusiveScriptVerifier",
-                                                                      "Prim");
-    registrar.registerScriptReader<VRK::DefaultScriptReader>("DefaultScriptReader", "Prim");
-    registrar.registerScriptReader<VRK::XMLScriptReader>("XMLScriptReader", "Prim");
-    registrar.registerWizardReader<VRK::DefaultWizardReader>("DefaultWizardReader", "Prim");
-    registrar.registerScriptWriter<VRK::DefaultScriptWriter>("DefaultScriptWriter", "Prim");
-    registrar.registerScriptWriter<VRK::GraphvizScriptWriter>("GraphvizScriptWriter", "Prim");
-    registrar.registerScriptWriter<VRK::XMLScriptWriter>("XMLScriptWriter", "Prim");
-    registrar.registerWizardWriter<VRK::DefaultWizardWriter>("DefaultWizardWriter", "Prim");
+    VRK::HostServices::registerEach(registrar, "Prim");
 }
 
 // Catalogue order: alphabetical, except "DoWhile" after "MuxValue" and "ValueJunction"

@@ -10,6 +10,7 @@
 #include "base/log/Logger.h"
 #include "base/plugin/FactoryFarm.h"
 #include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/ServiceCreators.h"
 #include "base/run/FunctorScheduler.h"
 #include "base/script/ScriptReader.h"
 #include "base/script/ScriptVerifier.h"
@@ -58,9 +59,9 @@ public:
         if (!VRK::NameUtils::isValidName(name))
             return logResult("FunctorScheduler", name, false);
         bool registered = farm_.getFunctorSchedulerFactory()->register_(
-            group, name, &createShared<VRK::FunctorScheduler, T>);
+            group, name, &VRK::ServiceCreators::create<VRK::FunctorScheduler, T>);
         registered = farm_.getFunctorSchedulerCloneFactory()->Register(
-                         typeid(T), &cloneRaw<VRK::FunctorScheduler, T>)
+                         typeid(T), &VRK::ServiceCreators::clone<VRK::FunctorScheduler, T>)
                      && registered;
         return logResult("FunctorScheduler", name, registered);
     }
@@ -69,35 +70,37 @@ public:
     bool registerScriptVerifier(const std::string& name, const std::string& group)
     {
         return registerNamed("ScriptVerifier", farm_.getScriptVerifierFactory(), name, group,
-                             &createShared<VRK::ScriptVerifier, T>);
+                             &VRK::ServiceCreators::create<VRK::ScriptVerifier, T>);
     }
 
     template <class T>
     bool registerWizardReader(const std::string& name, const std::string& group)
     {
         return registerNamed("WizardReader", farm_.getWizardReaderFactory(), name, group,
-                             &createShared<VRK::WizardReader, T>);
+                             &VRK::ServiceCreators::create<VRK::WizardReader, T>);
     }
 
     template <class T>
     bool registerWizardWriter(const std::string& name, const std::string& group)
     {
         return registerNamed("WizardWriter", farm_.getWizardWriterFactory(), name, group,
-                             &createShared<VRK::WizardWriter, T>);
+                             &VRK::ServiceCreators::create<VRK::WizardWriter, T>);
     }
 
     template <class T>
     bool registerScriptReader(const std::string& name, const std::string& group)
     {
         return registerPerExtension("ScriptReader", farm_.getScriptReaderFactory(), name, group,
-                                    T::FileExtensions, &createShared<VRK::ScriptReader, T>);
+                                    T::FileExtensions,
+                                    &VRK::ServiceCreators::create<VRK::ScriptReader, T>);
     }
 
     template <class T>
     bool registerScriptWriter(const std::string& name, const std::string& group)
     {
         return registerPerExtension("ScriptWriter", farm_.getScriptWriterFactory(), name, group,
-                                    T::FileExtensions, &createShared<VRK::ScriptWriter, T>);
+                                    T::FileExtensions,
+                                    &VRK::ServiceCreators::create<VRK::ScriptWriter, T>);
     }
 
     template <class T>
@@ -150,7 +153,7 @@ public:
         if (!VRK::NameUtils::isValidName(source) || !VRK::NameUtils::isValidName(target))
             return logResult("FunctorScheduler", name.str(), false);
         bool registered = farm_.getDataConverterFactory()->register_(
-            group, converter, &createShared<VRK::DataConverter, T>);
+            group, converter, &VRK::ServiceCreators::create<VRK::DataConverter, T>);
         return logResult("DataConverter", name.str(), registered);
     }
 
@@ -167,16 +170,6 @@ public:
     }
 
 private:
-    template <class Abstract, class T>
-    static std::shared_ptr<Abstract> createShared()
-    {
-        return std::make_shared<T>();
-    }
-    template <class Abstract, class T>
-    static Abstract* cloneRaw(const Abstract* model)
-    {
-        return new T(dynamic_cast<const T&>(*model));
-    }
     template <class T>
     static std::shared_ptr<VRK::Functor> cloneFunctor(const VRK::Functor& model)
     {
