@@ -6,7 +6,7 @@
 # The layers of base/, lowest first. A folder may include its own layer and those below.
 cmake_minimum_required(VERSION 3.25)
 
-set(LAYERS util log error task plugin data parse graph run script verify)
+set(LAYERS util log error task plugin data parse graph run script verify host)
 
 function(layer_of path result)
     string(REGEX MATCH "^base/([a-z]+)/" match "${path}")

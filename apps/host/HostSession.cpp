@@ -1,7 +1,9 @@
 #include "apps/host/HostSession.h"
 
+#include "base/host/HostServices.h"
 #include "base/log/LogFilterHigherTags.h"
 #include "base/log/Logger.h"
+#include "base/plugin/FactoryFarmManager.h"
 
 HostSession::HostSession(VRK::LogTag level, const std::string& pluginDir,
                          const std::shared_ptr<VRK::LogSink>& sink)
@@ -12,6 +14,8 @@ HostSession::HostSession(VRK::LogTag level, const std::string& pluginDir,
     if (sink)
         VRK::Logger::addSink(sink);
     loader_.loadAll(VRK::PluginLoader::searchPath(pluginDir));
+    // Scripts are read, verified, run and written even when no plugin loaded.
+    VRK::HostServices::registerMissing(VRK::FactoryFarmManager::Instance());
 }
 
 bool HostSession::reportPluginFailures(std::ostream& err, const std::string& program) const

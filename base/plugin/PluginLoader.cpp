@@ -1,7 +1,6 @@
 #include "base/plugin/PluginLoader.h"
 
 #include "base/plugin/FactoryFarmManager.h"
-#include "base/plugin/HostServices.h"
 
 #include <boost/filesystem/operations.hpp>
 
@@ -62,14 +61,11 @@ std::vector<fs::path> PluginLoader::searchPath(const std::string& explicitDir)
     return folders;
 }
 
-// The host's own services fill in what no plugin registered, so that scripts are read,
-// verified, run and written even when no plugin loads.
 void PluginLoader::loadAll(const std::vector<fs::path>& folders)
 {
     for (const auto& folder : folders)
         for (const auto& library : librariesIn(folder))
             load(library);
-    HostServices::registerMissing(FactoryFarmManager::Instance());
 }
 
 void PluginLoader::load(const fs::path& library)

@@ -19,8 +19,7 @@ public:
     static std::vector<boost::filesystem::path> searchPath(const std::string& explicitDir);
 
     // Loads every plugin found; one that fails is reported by path with the loader's
-    // message in `failures`, and the others still load. Then registers the host's own
-    // services that no plugin registered (HostServices).
+    // message in `failures`, and the others still load.
     void loadAll(const std::vector<boost::filesystem::path>& folders);
     void load(const boost::filesystem::path& library);
 

@@ -9,10 +9,10 @@
 #include "base/run/LightFunctorScheduler.h"
 #include "base/run/LightRunGuard.h"
 #include "base/run/RunContext.h"
+#include "base/script/ScriptVerifier.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/StackExtender.h"
 #include "base/task/Task.h"
-#include "base/verify/NonIntrusiveScriptVerifier.h"
 
 #include <algorithm>
 #include <cassert>
@@ -124,7 +124,7 @@ void Script::runTopLevel(Task& task, const FunctorScheduler& scheduler)
 void Script::verify()
 {
     WorkdirBinding::bindAll(*this);
-    NonIntrusiveScriptVerifier().verify(this);
+    ScriptVerifier::makeRunVerifier()->verify(this);
 }
 
 void Script::runLight(Functor* functor)

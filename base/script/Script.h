@@ -28,9 +28,9 @@ public:
 
     // Runs the script as a whole under `task`, which every thread of the run sees as
     // current: binds the work-directory inputs that the modeller left unbound, verifies
-    // the script with the host's non-intrusive verifier, empties what an earlier run
-    // left in the ports, prepares the functors, then runs the top level through copies
-    // of `scheduler`. The data stays in the ports afterwards.
+    // the script with a run verifier (ScriptVerifier::makeRunVerifier), empties what an
+    // earlier run left in the ports, prepares the functors, then runs the top level
+    // through copies of `scheduler`. The data stays in the ports afterwards.
     void run(Task& task, const FunctorScheduler& scheduler);
     // The same through the scheduler registered under `schedulerName`.
     void run(Task& task, const std::string& schedulerName);

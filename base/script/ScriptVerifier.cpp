@@ -4,6 +4,16 @@
 
 namespace VRK {
 
+namespace {
+
+ScriptVerifier::Maker& runVerifierMaker()
+{
+    static ScriptVerifier::Maker maker = nullptr;
+    return maker;
+}
+
+} // namespace
+
 ScriptVerifier::~ScriptVerifier() = default;
 
 void ScriptVerifier::verify(Script* script)
@@ -11,5 +21,13 @@ void ScriptVerifier::verify(Script* script)
     assert(script != 0 && "a script is given to verify");
     verifyImpl(script);
 }
+
+std::shared_ptr<ScriptVerifier> ScriptVerifier::makeRunVerifier()
+{
+    assert(runVerifierMaker() != nullptr && "the run verifier is installed");
+    return runVerifierMaker()();
+}
+
+void ScriptVerifier::setRunVerifierMaker(Maker maker) { runVerifierMaker() = maker; }
 
 } // namespace VRK

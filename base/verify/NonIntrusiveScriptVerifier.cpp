@@ -14,11 +14,19 @@
 #include "base/graph/PortScope.h"
 #include "base/graph/StrongInputPort.h"
 #include "base/graph/WorkdirBinding.h"
+#include "base/plugin/ServiceCreators.h"
 #include "base/script/Script.h"
 
 namespace VRK {
 
 namespace {
+
+// Every run of a script is verified non-intrusively; the layer of scripts, below this
+// one, learns so as the library loads.
+const bool isRunVerifier =
+    (ScriptVerifier::setRunVerifierMaker(
+         &ServiceCreators::create<ScriptVerifier, NonIntrusiveScriptVerifier>),
+     true);
 
 std::string typeName(const DataHolder& holder)
 {

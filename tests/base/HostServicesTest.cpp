@@ -1,10 +1,7 @@
-#include "base/plugin/HostServices.h"
+#include "base/host/HostServices.h"
 #include "base/plugin/FactoryFarm.h"
-#include "base/plugin/FactoryFarmManager.h"
-#include "base/plugin/PluginLoader.h"
 #include "base/plugin/ServiceCreators.h"
 
-#include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -69,20 +66,11 @@ TEST(HostServices, FillWhatNoPluginRegisteredAndKeepWhatOneDid)
         nullptr);
 }
 
-// A host whose plugin folder is empty still reads, verifies, runs and writes scripts.
-TEST(HostServices, AreThereWhenNoPluginLoads)
+// A run verifies with a verifier of its own, made fresh, whatever the factories hold.
+TEST(HostServices, EachRunHasANonIntrusiveVerifierOfItsOwn)
 {
-    namespace fs = boost::filesystem;
-    const fs::path empty = fs::temp_directory_path() / fs::unique_path("vrk-no-plugins-%%%%%%");
-    fs::create_directories(empty);
-    VRK::PluginLoader loader;
-    loader.loadAll({empty});
-    fs::remove_all(empty);
-
-    const VRK::FactoryFarm& farm = VRK::FactoryFarmManager::Instance();
-    EXPECT_TRUE(loader.getPlugins().empty());
-    EXPECT_TRUE(farm.getScriptReaderFactory()->isRegistered(".vrk"));
-    EXPECT_TRUE(farm.getScriptVerifierFactory()->isRegistered("NonIntrusiveScriptVerifier"));
-    EXPECT_TRUE(farm.getFunctorSchedulerFactory()->isRegistered("SequentialFunctorScheduler"));
-    EXPECT_TRUE(farm.getScriptWriterFactory()->isRegistered(".dot"));
+    const auto first = VRK::ScriptVerifier::makeRunVerifier();
+    const auto second = VRK::ScriptVerifier::makeRunVerifier();
+    EXPECT_NE(dynamic_cast<VRK::NonIntrusiveScriptVerifier*>(first.get()), nullptr);
+    EXPECT_NE(first, second);
 }

@@ -1,7 +1,7 @@
 #include "plugins/prim/registry/PrimRegistrar.h"
 
+#include "base/host/HostServices.h"
 #include "base/parse/ScannerTypes.h"
-#include "base/plugin/HostServices.h"
 #include "base/plugin/Plugin.h"
 #include "plugins/prim/carriers/BoolFunctor.h"
 #include "plugins/prim/carriers/DoubleFunctor.h"

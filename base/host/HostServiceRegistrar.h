@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PLUGIN_HOSTSERVICEREGISTRAR_H
-#define VRK_BASE_PLUGIN_HOSTSERVICEREGISTRAR_H
+#ifndef VRK_BASE_HOST_HOSTSERVICEREGISTRAR_H
+#define VRK_BASE_HOST_HOSTSERVICEREGISTRAR_H
 
 #include "base/plugin/FactoryFarm.h"
 #include "base/plugin/ServiceCreators.h"

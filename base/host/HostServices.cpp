@@ -1,6 +1,6 @@
-#include "base/plugin/HostServices.h"
+#include "base/host/HostServices.h"
 
-#include "base/plugin/HostServiceRegistrar.h"
+#include "base/host/HostServiceRegistrar.h"
 
 namespace VRK {
 

@@ -1,5 +1,5 @@
-#ifndef VRK_BASE_PLUGIN_HOSTSERVICES_H
-#define VRK_BASE_PLUGIN_HOSTSERVICES_H
+#ifndef VRK_BASE_HOST_HOSTSERVICES_H
+#define VRK_BASE_HOST_HOSTSERVICES_H
 
 #include "base/run/AutoFunctorScheduler.h"
 #include "base/run/LightFunctorScheduler.h"
