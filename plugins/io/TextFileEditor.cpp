@@ -3,26 +3,11 @@
 #include "plugins/io/TextFileData.h"
 #include "plugins/io/TextFileType.h"
 
+template class Prim::FileKindEditor<Io::TextFileKind>;
+
 namespace Io {
 
-TextFileEditor::TextFileEditor()
-    : Prim::FilenameEditor("TextFileEditor", "Editor for text files", TextFileType::getInstance())
-{
-}
-
 TextFileEditor::~TextFileEditor() = default;
-
-void TextFileEditor::packData()
-{
-    setDataPtr(std::make_shared<const TextFileData>(getCompoundFilename()));
-}
-
-std::string TextFileEditor::getAlias() const { return "text file"; }
-
-bool TextFileEditor::isExtensionAccepted(const std::string& extension) const
-{
-    return getExtensions().count(extension) != 0;
-}
 
 // Plain text, tables and logs; a name without extension is taken as text too.
 const std::set<std::string>& TextFileEditor::getExtensions()

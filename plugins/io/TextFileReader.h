@@ -1,13 +1,14 @@
 #ifndef VRK_PLUGINS_IO_TEXTFILEREADER_H
 #define VRK_PLUGINS_IO_TEXTFILEREADER_H
 
-#include "plugins/prim/files/FilenameReader.h"
+#include "plugins/io/TextFileKind.h"
+#include "plugins/prim/files/FileKindReader.h"
 
 namespace Io {
 
 // Reads the name of a text file between double quotes.
 template <class ScannerT>
-class TextFileReader : public Prim::FilenameReader<ScannerT> {
+class TextFileReader : public Prim::FileKindReader<TextFileKind, ScannerT> {
 public:
     explicit TextFileReader(VRK::DataEditor* dataEditor);
 };

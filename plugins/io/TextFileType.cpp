@@ -2,7 +2,7 @@
 
 namespace Io {
 
-TextFileType::TextFileType() : VRK::TypeShim<TextFileType, TextFileData>("TextFile", "Text file") {}
+TextFileType::TextFileType() = default;
 
 TextFileType::~TextFileType() = default;
 

@@ -1,12 +1,13 @@
 #ifndef VRK_PLUGINS_IO_TEXTFILETYPE_H
 #define VRK_PLUGINS_IO_TEXTFILETYPE_H
 
-#include "base/data/TypeShim.h"
 #include "plugins/io/TextFileData.h"
+#include "plugins/io/TextFileKind.h"
+#include "plugins/prim/files/FileKindType.h"
 
 namespace Io {
 
-class TextFileType : public VRK::TypeShim<TextFileType, TextFileData> {
+class TextFileType : public Prim::FileKindType<TextFileKind> {
 public:
     TextFileType();
     ~TextFileType() override;

@@ -2,13 +2,9 @@
 
 #include "plugins/io/TextFileType.h"
 
-namespace Io {
+template class Prim::FileKindViewer<Io::TextFileKind>;
 
-TextFileViewer::TextFileViewer()
-    : Prim::FilenameViewer("TextFileViewer", "Viewer for inspecting text file names",
-                           TextFileType::getInstance())
-{
-}
+namespace Io {
 
 TextFileViewer::~TextFileViewer() = default;
 

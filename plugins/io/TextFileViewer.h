@@ -1,19 +1,19 @@
 #ifndef VRK_PLUGINS_IO_TEXTFILEVIEWER_H
 #define VRK_PLUGINS_IO_TEXTFILEVIEWER_H
 
-#include "plugins/prim/files/FilenameViewer.h"
+#include "plugins/io/TextFileKind.h"
+#include "plugins/prim/files/FileKindViewer.h"
 
 namespace Io {
 
 // Inspects names of text files.
-class TextFileViewer : public Prim::FilenameViewer {
+class TextFileViewer : public Prim::FileKindViewer<TextFileKind> {
 public:
-    TextFileViewer();
-    TextFileViewer(const TextFileViewer&) = default;
-    TextFileViewer& operator=(const TextFileViewer&) = default;
     ~TextFileViewer() override;
 };
 
 } // namespace Io
+
+extern template class Prim::FileKindViewer<Io::TextFileKind>;
 
 #endif

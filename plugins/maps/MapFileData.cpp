@@ -2,11 +2,6 @@
 
 namespace Maps {
 
-MapFileData::MapFileData(const Prim::CompoundFilename& filename)
-    : VRK::Data<Prim::CompoundFilename, MapFileViewer, MapFileEditor>(filename)
-{
-}
-
 MapFileData::~MapFileData() = default;
 
 } // namespace Maps

@@ -1,7 +1,8 @@
 #ifndef VRK_PLUGINS_MAPS_MAPFILEEDITOR_H
 #define VRK_PLUGINS_MAPS_MAPFILEEDITOR_H
 
-#include "plugins/prim/files/FilenameEditor.h"
+#include "plugins/maps/MapFileKind.h"
+#include "plugins/prim/files/FileKindEditor.h"
 
 #include <set>
 #include <string>
@@ -9,21 +10,15 @@
 namespace Maps {
 
 // Edits names of map files.
-class MapFileEditor : public Prim::FilenameEditor {
+class MapFileEditor : public Prim::FileKindEditor<MapFileKind> {
 public:
-    MapFileEditor();
-    MapFileEditor(const MapFileEditor&) = default;
-    MapFileEditor& operator=(const MapFileEditor&) = default;
     ~MapFileEditor() override;
-
-    void packData() override;
-
-    std::string getAlias() const override;
-    bool isExtensionAccepted(const std::string& extension) const override;
 
     static const std::set<std::string>& getExtensions();
 };
 
 } // namespace Maps
+
+extern template class Prim::FileKindEditor<Maps::MapFileKind>;
 
 #endif

@@ -2,7 +2,7 @@
 
 namespace Maps {
 
-MapFileType::MapFileType() : VRK::TypeShim<MapFileType, MapFileData>("MapFile", "Map file") {}
+MapFileType::MapFileType() = default;
 
 MapFileType::~MapFileType() = default;
 

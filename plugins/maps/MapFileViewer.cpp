@@ -2,13 +2,9 @@
 
 #include "plugins/maps/MapFileType.h"
 
-namespace Maps {
+template class Prim::FileKindViewer<Maps::MapFileKind>;
 
-MapFileViewer::MapFileViewer()
-    : Prim::FilenameViewer("MapFileViewer", "Viewer for inspecting map file names",
-                           MapFileType::getInstance())
-{
-}
+namespace Maps {
 
 MapFileViewer::~MapFileViewer() = default;
 

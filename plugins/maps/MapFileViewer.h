@@ -1,19 +1,19 @@
 #ifndef VRK_PLUGINS_MAPS_MAPFILEVIEWER_H
 #define VRK_PLUGINS_MAPS_MAPFILEVIEWER_H
 
-#include "plugins/prim/files/FilenameViewer.h"
+#include "plugins/maps/MapFileKind.h"
+#include "plugins/prim/files/FileKindViewer.h"
 
 namespace Maps {
 
 // Inspects names of map files.
-class MapFileViewer : public Prim::FilenameViewer {
+class MapFileViewer : public Prim::FileKindViewer<MapFileKind> {
 public:
-    MapFileViewer();
-    MapFileViewer(const MapFileViewer&) = default;
-    MapFileViewer& operator=(const MapFileViewer&) = default;
     ~MapFileViewer() override;
 };
 
 } // namespace Maps
+
+extern template class Prim::FileKindViewer<Maps::MapFileKind>;
 
 #endif

@@ -3,27 +3,11 @@
 #include "plugins/maps/TableFileData.h"
 #include "plugins/maps/TableFileType.h"
 
+template class Prim::FileKindEditor<Maps::TableFileKind>;
+
 namespace Maps {
 
-TableFileEditor::TableFileEditor()
-    : Prim::FilenameEditor("TableFileEditor", "Editor for table files",
-                           TableFileType::getInstance())
-{
-}
-
 TableFileEditor::~TableFileEditor() = default;
-
-void TableFileEditor::packData()
-{
-    setDataPtr(std::make_shared<const TableFileData>(getCompoundFilename()));
-}
-
-std::string TableFileEditor::getAlias() const { return "table file"; }
-
-bool TableFileEditor::isExtensionAccepted(const std::string& extension) const
-{
-    return getExtensions().count(extension) != 0;
-}
 
 // Tables are kept as comma-separated text.
 const std::set<std::string>& TableFileEditor::getExtensions()

@@ -1,7 +1,8 @@
 #ifndef VRK_PLUGINS_MAPS_TABLEFILEEDITOR_H
 #define VRK_PLUGINS_MAPS_TABLEFILEEDITOR_H
 
-#include "plugins/prim/files/FilenameEditor.h"
+#include "plugins/maps/TableFileKind.h"
+#include "plugins/prim/files/FileKindEditor.h"
 
 #include <set>
 #include <string>
@@ -9,21 +10,15 @@
 namespace Maps {
 
 // Edits names of table files.
-class TableFileEditor : public Prim::FilenameEditor {
+class TableFileEditor : public Prim::FileKindEditor<TableFileKind> {
 public:
-    TableFileEditor();
-    TableFileEditor(const TableFileEditor&) = default;
-    TableFileEditor& operator=(const TableFileEditor&) = default;
     ~TableFileEditor() override;
-
-    void packData() override;
-
-    std::string getAlias() const override;
-    bool isExtensionAccepted(const std::string& extension) const override;
 
     static const std::set<std::string>& getExtensions();
 };
 
 } // namespace Maps
+
+extern template class Prim::FileKindEditor<Maps::TableFileKind>;
 
 #endif

@@ -1,13 +1,14 @@
 #ifndef VRK_PLUGINS_MAPS_TABLEFILEREADER_H
 #define VRK_PLUGINS_MAPS_TABLEFILEREADER_H
 
-#include "plugins/prim/files/FilenameReader.h"
+#include "plugins/maps/TableFileKind.h"
+#include "plugins/prim/files/FileKindReader.h"
 
 namespace Maps {
 
 // Reads the name of a table file between double quotes.
 template <class ScannerT>
-class TableFileReader : public Prim::FilenameReader<ScannerT> {
+class TableFileReader : public Prim::FileKindReader<TableFileKind, ScannerT> {
 public:
     explicit TableFileReader(VRK::DataEditor* dataEditor);
 };

@@ -2,10 +2,7 @@
 
 namespace Maps {
 
-TableFileType::TableFileType()
-    : VRK::TypeShim<TableFileType, TableFileData>("TableFile", "Table file")
-{
-}
+TableFileType::TableFileType() = default;
 
 TableFileType::~TableFileType() = default;
 

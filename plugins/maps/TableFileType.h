@@ -1,12 +1,13 @@
 #ifndef VRK_PLUGINS_MAPS_TABLEFILETYPE_H
 #define VRK_PLUGINS_MAPS_TABLEFILETYPE_H
 
-#include "base/data/TypeShim.h"
 #include "plugins/maps/TableFileData.h"
+#include "plugins/maps/TableFileKind.h"
+#include "plugins/prim/files/FileKindType.h"
 
 namespace Maps {
 
-class TableFileType : public VRK::TypeShim<TableFileType, TableFileData> {
+class TableFileType : public Prim::FileKindType<TableFileKind> {
 public:
     TableFileType();
     ~TableFileType() override;

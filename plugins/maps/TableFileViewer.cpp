@@ -2,13 +2,9 @@
 
 #include "plugins/maps/TableFileType.h"
 
-namespace Maps {
+template class Prim::FileKindViewer<Maps::TableFileKind>;
 
-TableFileViewer::TableFileViewer()
-    : Prim::FilenameViewer("TableFileViewer", "Viewer for inspecting table file names",
-                           TableFileType::getInstance())
-{
-}
+namespace Maps {
 
 TableFileViewer::~TableFileViewer() = default;
 
