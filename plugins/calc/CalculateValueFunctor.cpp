@@ -1,14 +1,9 @@
 #include "plugins/calc/CalculateValueFunctor.h"
 
-#include "base/error/Exception.h"
-#include "base/error/ExceptionUtils.h"
-#include "base/run/ContainerFunctorUtils.h"
 #include "base/util/Singleton.h"
 #include "plugins/prim/environment/NamedValueRegistratorType.h"
 #include "plugins/prim/environment/NumberedValueRegistratorType.h"
 #include "plugins/prim/environment/PrimEnvironmentUtils.h"
-#include "plugins/prim/formula/ImageExpressionData.h"
-#include "plugins/prim/formula/ImageExpressionType.h"
 #include "plugins/prim/values/numbers/DoubleData.h"
 #include "plugins/prim/values/numbers/DoubleType.h"
 #include "tessaly/images/EvaluationContext.h"
@@ -21,7 +16,6 @@ namespace Calc {
 
 namespace {
 
-const char* const ExpressionPort = "expression";
 const char* const ResultPort = "result";
 
 bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>& type)
@@ -29,22 +23,14 @@ bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>
     return functor.getType()->getName() == type->getName();
 }
 
-void refuse(const Tessaly::TopLevelImageExpression& expression, const std::string& problem)
-{
-    VRK::ExceptionUtils::raise<VRK::Exception>("The expression \"" + expression.toString()
-                                               + "\" " + problem);
-}
-
 } // namespace
 
 CalculateValue::CalculateValue()
-    : VRK::ContainerFunctor("CalculateValue",
-                            "Calculates a value from a formula over the values registered "
-                            "inside it.",
-                            nullptr)
+    : Prim::FormulaFunctor("CalculateValue",
+                           "Calculates a value from a formula over the values registered "
+                           "inside it.",
+                           "The formula, over numbered (v1) and named ($name) values.", nullptr)
 {
-    addInputPort(ExpressionPort, "The formula, over numbered (v1) and named ($name) values.",
-                 Prim::ImageExpressionType::getInstance(), false);
     addOutputPort(ResultPort, "The value of the formula.", Prim::DoubleType::getInstance());
 }
 
@@ -59,26 +45,9 @@ bool CalculateValue::isCompatible(VRK::Functor* functor) const
                             VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance()));
 }
 
-void CalculateValue::runContainerImpl()
+void CalculateValue::calculate()
 {
-    VRK::ContainerFunctorUtils::runFunctorsInContainer(*this, VRK::warning);
-    double result = 0;
-    try {
-        result = calculate();
-    } catch (VRK::Exception& error) {
-        error.setScriptPosition(getPosition());
-        throw;
-    }
-    setOutputPortValue<Prim::DoubleData>(ResultPort, result);
-}
-
-// The shared formula is compiled in a copy, so that passes running at once never
-// write to it.
-double CalculateValue::calculate()
-{
-    Tessaly::TopLevelImageExpression expression =
-        *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
-    expression.compile();
+    const Tessaly::TopLevelImageExpression expression = getCompiledExpression();
     if (!expression.getDependencies(Tessaly::EntityKind::Image).empty())
         refuse(expression, "reads an image, which CalculateValue does not provide.");
     if (!expression.getDependencies(Tessaly::EntityKind::Table).empty())
@@ -97,7 +66,7 @@ double CalculateValue::calculate()
         refuse(expression, "gives no value (null).");
     if (std::isinf(value))
         refuse(expression, "gives an infinite value.");
-    return value;
+    setOutputPortValue<Prim::DoubleData>(ResultPort, value);
 }
 
 } // namespace Calc

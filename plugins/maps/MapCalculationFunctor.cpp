@@ -1,30 +1,24 @@
 #include "plugins/maps/MapCalculationFunctor.h"
 
-#include "base/error/Exception.h"
 #include "base/error/ExceptionUtils.h"
-#include "base/run/ContainerFunctorUtils.h"
 #include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "plugins/maps/CalculationEnvironment.h"
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapType.h"
 #include "plugins/maps/TemporaryMapFile.h"
-#include "plugins/prim/formula/ImageExpressionData.h"
-#include "plugins/prim/formula/ImageExpressionEditor.h"
-#include "plugins/prim/formula/ImageExpressionType.h"
-#include "plugins/prim/values/PrimEditorUtils.h"
 #include "tessaly/images/ImageCalculator.h"
 #include "tessaly/raster/MemoryBudget.h"
 #include "tessaly/raster/MemoryRasterSource.h"
 #include "tessaly/raster/StripCalculator.h"
 
 #include <cassert>
+#include <functional>
 
 namespace Maps {
 
 namespace {
 
-const char* const ExpressionPort = "expression";
 const char* const ImagePort = "image";
 const char* const ResultPort = "result";
 
@@ -33,17 +27,12 @@ const char* const ResultPort = "result";
 MapCalculationFunctor::MapCalculationFunctor(const std::string& name,
                                              const std::string& description,
                                              Tessaly::CellType cellType, bool namedImage)
-    : VRK::ContainerFunctor(name, description, nullptr), cellType_(cellType),
-      namedImage_(namedImage)
+    : Prim::FormulaFunctor(name, description,
+                           "The formula, over numbered (i1, t1, v1) and named (#map, %table, "
+                           "$value) maps, tables and values.",
+                           namedImage ? "#image" : "i1"),
+      cellType_(cellType), namedImage_(namedImage)
 {
-    // Optional: left out, the formula reads the first map.
-    auto formula = addOptionalInputPort(
-        ExpressionPort,
-        "The formula, over numbered (i1, t1, v1) and named (#map, %table, $value) maps, "
-        "tables and values.",
-        Prim::ImageExpressionType::getInstance(), false, 0);
-    Prim::PrimEditorUtils::editorOf<Prim::ImageExpressionEditor>(formula.get())
-        .setDefaultFormula(namedImage ? "#image" : "i1");
     if (namedImage)
         addInputPort(ImagePort, "The map that the formula names #image.", MapType::getInstance(),
                      false);
@@ -59,27 +48,15 @@ bool MapCalculationFunctor::isCompatible(VRK::Functor* functor) const
     return CalculationEnvironment::isRegistrator(*functor);
 }
 
-void MapCalculationFunctor::runContainerImpl()
+// The calculator refuses maps on different grids and a formula without a map.
+void MapCalculationFunctor::calculate()
 {
-    VRK::ContainerFunctorUtils::runFunctorsInContainer(*this, VRK::warning);
-    std::shared_ptr<const Tessaly::RasterSource> result;
-    try {
-        result = calculate();
-    } catch (VRK::Exception& error) {
-        error.setScriptPosition(getPosition());
-        throw;
-    }
-    setOutputPortValue<MapData>(ResultPort, result);
+    setOutputPortValue<MapData>(ResultPort, calculateSource());
 }
 
-// The shared formula is compiled in a copy, so that passes running at once never
-// write to it. The calculator refuses maps on different grids and a formula without a
-// map.
-std::shared_ptr<const Tessaly::RasterSource> MapCalculationFunctor::calculate()
+std::shared_ptr<const Tessaly::RasterSource> MapCalculationFunctor::calculateSource()
 {
-    Tessaly::TopLevelImageExpression expression =
-        *getInputPortValue<Prim::ImageExpressionData>(ExpressionPort);
-    expression.compile();
+    const Tessaly::TopLevelImageExpression expression = getCompiledExpression();
     CalculationEnvironment environment(*this);
     if (namedImage_)
         environment.addMap(ImagePort, getInputPortValue<MapData>(ImagePort));

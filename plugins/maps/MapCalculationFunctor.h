@@ -1,7 +1,8 @@
 #ifndef VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
 #define VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
 
-#include "base/graph/ContainerFunctor.h"
+#include "plugins/prim/formula/FormulaFunctor.h"
+#include "tessaly/images/Raster.h"
 #include "tessaly/images/TopLevelImageExpression.h"
 #include "tessaly/raster/RasterSource.h"
 #include "tessaly/raster/StripCalculator.h"
@@ -16,13 +17,12 @@ namespace Maps {
 // the formula names #image, when it has one), and publishes the map on "result". The
 // calculation runs under the processor count in force and stops when the run is
 // cancelled.
-class MapCalculationFunctor : public VRK::ContainerFunctor {
+class MapCalculationFunctor : public Prim::FormulaFunctor {
 public:
     MapCalculationFunctor(const MapCalculationFunctor&) = default;
     ~MapCalculationFunctor() override;
 
     bool isCompatible(VRK::Functor* functor) const override;
-    void runContainerImpl() override;
 
 protected:
     // `namedImage`: the functor has the input "image".
@@ -30,7 +30,8 @@ protected:
                           Tessaly::CellType cellType, bool namedImage);
 
 private:
-    std::shared_ptr<const Tessaly::RasterSource> calculate();
+    void calculate() override;
+    std::shared_ptr<const Tessaly::RasterSource> calculateSource();
     static std::shared_ptr<const Tessaly::RasterSource> keep(const Tessaly::StripCalculator& strips,
                                                              const Tessaly::Raster& header);
 

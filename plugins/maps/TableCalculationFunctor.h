@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
 #define VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
 
-#include "base/graph/ContainerFunctor.h"
+#include "plugins/prim/formula/FormulaFunctor.h"
 #include "tessaly/images/LookupTable.h"
 
 #include <memory>
@@ -14,13 +14,12 @@ namespace Maps {
 // the same keys with the formula's values (null where the formula gives null). The keys
 // are those of its input "table" when it has one (the formula names it %table), else of
 // the first table that the formula names.
-class TableCalculationFunctor : public VRK::ContainerFunctor {
+class TableCalculationFunctor : public Prim::FormulaFunctor {
 public:
     TableCalculationFunctor(const TableCalculationFunctor&) = default;
     ~TableCalculationFunctor() override;
 
     bool isCompatible(VRK::Functor* functor) const override;
-    void runContainerImpl() override;
 
 protected:
     // `namedTable`: the functor has the input "table".
@@ -28,7 +27,7 @@ protected:
                             bool namedTable);
 
 private:
-    std::shared_ptr<const Tessaly::LookupTable> calculate();
+    void calculate() override;
 
     bool namedTable_;
 };
