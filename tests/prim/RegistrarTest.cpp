@@ -9,6 +9,7 @@
 #include "base/graph/ContainerFunctor.h"
 #include "base/parse/ScannerTypes.h"
 #include "base/plugin/FactoryFarmManager.h"
+#include "base/plugin/Plugin.h"
 #include "base/script/Script.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PrimRegistration.h"
@@ -161,6 +162,42 @@ TEST(PrimRegistrar, NothingIsLoggedBelowDebugAndEntriesStillRegister)
     EXPECT_TRUE(registrar.registerData<ProbeData>());
     EXPECT_TRUE(capture.lines().empty());
     EXPECT_TRUE(farm.getFunctorFactory()->isRegistered("Probe"));
+}
+
+// The catalogue opens with the host's services, under the group "Prim", in its order,
+// and goes on with the functors.
+TEST(PrimRegistrar, TheCatalogueOpensWithTheHostServicesInOrder)
+{
+    VRK::FactoryFarm farm;
+    VRK::Plugin plugin("Prim", "", farm);
+    LogCapture capture;
+    registerPrimPlugin(plugin);
+    const std::pair<const char*, const char*> services[] = {
+        {"FunctorScheduler", "AutoFunctorScheduler"},
+        {"FunctorScheduler", "LightFunctorScheduler"},
+        {"FunctorScheduler", "ParallelFunctorScheduler"},
+        {"FunctorScheduler", "SequentialFunctorScheduler"},
+        {"ScriptVerifier", "IntrusiveScriptVerifier"},
+        {"ScriptVerifier", "NonIntrusiveScriptVerifier"},
+        {"ScriptReader", "DefaultScriptReader"},
+        {"ScriptReader", "XMLScriptReader"},
+        {"WizardReader", "DefaultWizardReader"},
+        {"ScriptWriter", "DefaultScriptWriter"},
+        {"ScriptWriter", "GraphvizScriptWriter"},
+        {"ScriptWriter", "XMLScriptWriter"},
+        {"WizardWriter", "DefaultWizardWriter"},
+    };
+    std::vector<std::string> expected;
+    for (const auto& [kind, name] : services) {
+        expected.push_back(std::string(kind) + " \"" + name
+                           + "\" (group \"Prim\") is being registered:");
+        expected.push_back(std::string(kind) + " \"" + name + "\" registered successfully.");
+    }
+    expected.push_back("Functor \"Bool\" (group \"Map Algebra (Suppl.)\") is being registered:");
+    const auto lines = capture.lines();
+    ASSERT_GT(lines.size(), expected.size());
+    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + expected.size()), expected);
+    EXPECT_EQ(farm.getScriptWriterFactory()->getEntries().size(), 3u);
 }
 
 // The names scripts used before a functor was renamed build the renamed class.
