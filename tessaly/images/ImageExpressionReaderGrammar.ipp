@@ -182,7 +182,7 @@ struct make_value_impl {
     ImageExpressionPtr operator()(const IteratorT& first, const IteratorT& last) const
     {
         const std::string text(first, last);
-        return std::make_shared<_ImageExpression::Value>(std::strtod(text.c_str(), nullptr));
+        return std::make_shared<Nodes::Value>(std::strtod(text.c_str(), nullptr));
     }
 };
 
@@ -251,11 +251,11 @@ struct ImageExpressionReaderGrammar<ScannerT>::Rules {
     phoenix::function<IER::set_image_impl> setImage;
     phoenix::function<IER::set_table_impl> setTable;
     phoenix::function<IER::set_key_name_impl> setKeyName;
-    phoenix::function<IER::binary_expression_impl<_ImageExpression::Pow>> makePow;
-    phoenix::function<IER::binary_expression_impl<_ImageExpression::Catch>> makeCatch;
-    phoenix::function<IER::unary_expression_impl<_ImageExpression::UnaryMinus>> makeMinus;
-    phoenix::function<IER::unary_expression_impl<_ImageExpression::BooleanNot>> makeNot;
-    phoenix::function<IER::indexed_expression_impl<_ImageExpression::VariableValue>> makeVariable;
+    phoenix::function<IER::binary_expression_impl<Nodes::Pow>> makePow;
+    phoenix::function<IER::binary_expression_impl<Nodes::Catch>> makeCatch;
+    phoenix::function<IER::unary_expression_impl<Nodes::UnaryMinus>> makeMinus;
+    phoenix::function<IER::unary_expression_impl<Nodes::BooleanNot>> makeNot;
+    phoenix::function<IER::indexed_expression_impl<Nodes::VariableValue>> makeVariable;
     phoenix::function<make_value_impl> makeValue;
 };
 
@@ -278,7 +278,7 @@ ImageExpressionReaderGrammar<ScannerT>::Rules::Rules(
 template <class ScannerT>
 void ImageExpressionReaderGrammar<ScannerT>::Rules::defineSymbols()
 {
-    using namespace _ImageExpression;
+    using namespace Nodes;
     addSpellings<BooleanOr>(orOperators, {"||"});
     addSpellings<BooleanAnd>(andOperators, {"&&"});
     addSpellings<NotEqual>(equalityOperators, {"/=", "!="});
@@ -434,7 +434,7 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::defineCalls()
            | (binaryFunctions[call.builder = arg1] >> open >> firstArgument >> argument
               >> close)[built]
            | (sc::str_p("nbconvol")[call.builder = phoenix::val(
-                  &IER::sixternary_expression_impl<_ImageExpression::NeighborhoodConvolution>::build)]
+                  &IER::sixternary_expression_impl<Nodes::NeighborhoodConvolution>::build)]
               >> open >> imageArgument >> expect(sc::ch_p(','), Comma)
               >> expect(table, TableIdentifier)[setTable(call.operands, arg1)] >> window
               >> close)[built]
@@ -448,7 +448,7 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::defineCalls()
          >> expect(sc::str_p("else"), "Expecting \"else\".")
          >> expect(expression, Subexpression)[push(conditional.operands, arg1)])
             [conditional.val = build(
-                 phoenix::val(&IER::ternary_expression_impl<_ImageExpression::IfThenElse>::build),
+                 phoenix::val(&IER::ternary_expression_impl<Nodes::IfThenElse>::build),
                  conditional.operands)];
 }
 
@@ -466,11 +466,11 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::defineLookups()
                        KeyName)
              >> expect(sc::ch_p(']'), CloseBracket))
                 [tableLookup.val = build(
-                     phoenix::val(&IER::named_expression_impl<_ImageExpression::TableNamedValue>::build),
+                     phoenix::val(&IER::named_expression_impl<Nodes::TableNamedValue>::build),
                      tableLookup.operands)]
             | (sc::ch_p('{') >> key >> expect(sc::ch_p('}'), CloseBrace))
                   [tableLookup.val = build(
-                       phoenix::val(&IER::binary_expression_impl<_ImageExpression::TableValue>::build),
+                       phoenix::val(&IER::binary_expression_impl<Nodes::TableValue>::build),
                        tableLookup.operands)]
             | (bracketForms[tableLookup.builder = arg1] >> key
                >> expect(sc::ch_p(']'), CloseBracket))[tableLookup.val = build(
@@ -483,10 +483,10 @@ void ImageExpressionReaderGrammar<ScannerT>::Rules::defineLookups()
              >> expect(expression, Subexpression)[push(imageValue.operands, arg1)]
              >> expect(sc::ch_p(']'), CloseBracket))
                 [imageValue.val = build(
-                     phoenix::val(&IER::ternary_expression_impl<_ImageExpression::ImageValue2>::build),
+                     phoenix::val(&IER::ternary_expression_impl<Nodes::ImageValue2>::build),
                      imageValue.operands)]
             | sc::eps_p[imageValue.val = build(
-                  phoenix::val(&IER::indexed_expression_impl<_ImageExpression::ImageValue>::build),
+                  phoenix::val(&IER::indexed_expression_impl<Nodes::ImageValue>::build),
                   imageValue.operands)]);
 }
 
