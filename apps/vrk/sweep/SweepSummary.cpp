@@ -1,6 +1,6 @@
 #include "apps/vrk/sweep/SweepSummary.h"
 
-#include "apps/vrk/CsvFields.h"
+#include "apps/vrk/sweep/CsvFields.h"
 
 #include "base/error/ExceptionUtils.h"
 #include "base/parse/ParseError.h"

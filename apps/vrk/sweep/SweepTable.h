@@ -1,7 +1,7 @@
 #ifndef VRK_APPS_VRK_SWEEP_SWEEPTABLE_H
 #define VRK_APPS_VRK_SWEEP_SWEEPTABLE_H
 
-#include "apps/vrk/CsvFields.h"
+#include "apps/vrk/sweep/CsvFields.h"
 
 #include "base/script/WizardParameter.h"
 #include "base/util/LineBuffer.h"

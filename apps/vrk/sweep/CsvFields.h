@@ -1,10 +1,12 @@
-#ifndef VRK_APPS_VRK_CSVFIELDS_H
-#define VRK_APPS_VRK_CSVFIELDS_H
+#ifndef VRK_APPS_VRK_SWEEP_CSVFIELDS_H
+#define VRK_APPS_VRK_SWEEP_CSVFIELDS_H
 
 #include "base/util/ScriptPosition.h"
 
 #include <string>
 #include <vector>
+
+namespace Sweep {
 
 // The fields of the comma-separated lines that sweeps read and write: a field may be
 // double-quoted, with "" for a quote inside.
@@ -24,5 +26,7 @@ public:
     // `text` without the spaces and tabs around it.
     static std::string trim(const std::string& text);
 };
+
+} // namespace Sweep
 
 #endif

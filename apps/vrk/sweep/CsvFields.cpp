@@ -1,7 +1,9 @@
-#include "apps/vrk/CsvFields.h"
+#include "apps/vrk/sweep/CsvFields.h"
 
 #include "base/error/ExceptionUtils.h"
 #include "base/parse/ParseError.h"
+
+namespace Sweep {
 
 std::vector<CsvFields::Field> CsvFields::split(const std::string& line,
                                                const VRK::ScriptPosition& where)
@@ -49,3 +51,5 @@ std::string CsvFields::trim(const std::string& text)
                ? std::string()
                : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
+
+} // namespace Sweep
