@@ -12,6 +12,22 @@ trap 'rm -rf "$work"' EXIT
 cd "$work" || exit 1
 failed=0
 fail() { echo "FAIL $*"; failed=1; }
+# Sends a signal while the process's temporary file exists: the process is stopped, the
+# file looked for, and the signal sent before the process goes on, so that the write
+# cannot end between the look and the signal. Fails once the process has ended.
+signal_during_write() { # SIGNAL PID PATTERN
+    for _ in $(seq 1 6000); do
+        kill -STOP "$2" 2> /dev/null || return 1
+        if [ -n "$(find . -name "$3")" ]; then
+            kill "-$1" "$2"
+            kill -CONT "$2"
+            return 0
+        fi
+        kill -CONT "$2"
+        sleep 0.005
+    done
+    return 1
+}
 no_temporaries() { [ -z "$(find . -name '.*.tmp')" ] || fail "$1 left $(find . -name '.*.tmp')"; }
 
 printf 'b := Bool constant = .yes;\n' > small.vrk
@@ -39,8 +55,8 @@ grep -q "cannot be written" limited.err || fail "no reason given: $(cat limited.
 [ "$(cat limited.vrk)" = old ] || fail "the size limit changed the target"
 no_temporaries "the size limit"
 
-# The signal comes while the temporary file is being written. On a busy machine the
-# write may end before the signal is sent: that attempt shows nothing and is made again.
+# The signal comes while the temporary file is being written. A convert may end before
+# it is ever caught with its file open: that attempt shows nothing and is made again.
 for signal in TERM INT; do
     expected=143
     [ "$signal" = INT ] && expected=130
@@ -49,10 +65,7 @@ for signal in TERM INT; do
         rm -f "signalled.vrk"
         "$vrk" convert big.vrk signalled.vrk &
         pid=$!
-        while kill -0 "$pid" 2> /dev/null && [ -z "$(find . -name '.signalled.vrk.*.tmp')" ]; do
-            sleep 0.01
-        done
-        kill "-$signal" "$pid" 2> /dev/null
+        signal_during_write "$signal" "$pid" '.signalled.vrk.*.tmp'
         wait "$pid"
         status=$?
         [ "$status" = 0 ] || break
@@ -63,8 +76,7 @@ done
 
 # SIGKILL during a write leaves its temporary file, which no handler can remove; the
 # next write of that file removes it, but not a temporary file whose writer still runs
-# nor one of another file. The file is written over and over, so that a write is
-# under way nearly all the time.
+# nor one of another file. The file is written over and over until one write is caught.
 head -c 3000000 /dev/zero | tr '\0' 'k' > text.txt
 cat > rewrite.vrk <<'SCRIPT'
 text := LoadText filename = "text.txt";
@@ -77,10 +89,7 @@ left=
 for _ in 1 2 3 4 5; do
     "$vrk" run rewrite.vrk --log-level .result &
     pid=$!
-    while kill -0 "$pid" 2> /dev/null && [ -z "$(find . -name '.killed.txt.*.tmp')" ]; do
-        sleep 0.01
-    done
-    kill -KILL "$pid" 2> /dev/null
+    signal_during_write KILL "$pid" '.killed.txt.*.tmp' || kill -KILL "$pid" 2> /dev/null
     wait "$pid" 2> /dev/null
     left=$(find . -name '.killed.txt.*.tmp')
     [ -n "$left" ] && break
