@@ -107,7 +107,9 @@ int runCommandLine(int argc, char** argv)
         ->required();
     sweep->add_option("--jobs", sweepOptions.jobs, "Runs at a time (default: processor count)")
         ->check(CLI::PositiveNumber);
-    sweep->add_option("--memory", sweepOptions.memory, "Memory budget of maps in each run")
+    sweep->add_option("--memory", sweepOptions.memory,
+                      "Memory budget of maps in each run (default: half the physical memory, "
+                      "shared among the runs at a time)")
         ->transform(CLI::AsSizeValue(false));
     sweep->add_option("--out", sweepOptions.out, "Folder of the runs (default runs)");
     sweep->add_flag("--resume", sweepOptions.resume, "Skip the runs that succeeded before");

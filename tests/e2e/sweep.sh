@@ -50,6 +50,10 @@ for _ in $(seq 1 200); do
     [ -f slow/5/log.txt ] && [ -f slow/6/log.txt ] && [ "$(grep -c ',0,' slow/summary.csv 2>/dev/null)" = 4 ] && break
     sleep 0.1
 done
+# The two runs at a time share the default budget of half the physical memory.
+share=$(($(getconf _PHYS_PAGES) * $(getconf PAGE_SIZE) / 2 / 2))
+pgrep -af -- "--workdir slow/5 " | grep -q -- "--memory $share" ||
+    fail "the runs at a time do not share the default budget: $(pgrep -af -- '--workdir slow/')"
 sleep 0.3
 kill -INT "$sweep"
 wait "$sweep"

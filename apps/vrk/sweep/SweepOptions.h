@@ -14,8 +14,8 @@ struct SweepOptions {
     std::string out = "runs";
     // Skips the runs that the summary says succeeded.
     bool resume = false;
-    // Passed on to every run: the memory budget in bytes (empty for the default), the log
-    // level and the plugin folder.
+    // Passed on to every run: the memory budget in bytes (empty for the default budget
+    // shared among the runs at a time), the log level and the plugin folder.
     std::string memory;
     std::string logLevel;
     std::string pluginDir;

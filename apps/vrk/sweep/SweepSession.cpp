@@ -12,6 +12,7 @@
 #include "base/script/ScriptFiles.h"
 #include "base/script/ScriptParameters.h"
 #include "base/task/Task.h"
+#include "tessaly/raster/MemoryBudget.h"
 
 #include <boost/filesystem/operations.hpp>
 
@@ -61,16 +62,17 @@ int SweepSession::run(SweepSlots* remote)
         (boost::filesystem::path(options_.out) / "summary.csv").string(), order);
     if (options_.resume)
         summary_->load();
+    const unsigned int jobs =
+        options_.jobs > 0 ? options_.jobs : std::max(1u, std::thread::hardware_concurrency());
+    const SweepOptions each = withMemoryOfEachRun(jobs);
     std::deque<SweepJob> waiting;
     for (const SweepTable::Row& row : table_->getRows())
         if (!summary_->succeeded(row.run))
-            waiting.push_back(SweepJob::of(options_, row));
+            waiting.push_back(SweepJob::of(each, row));
     // Under mpirun, rank 0 writes to a terminal that mpirun makes, whatever its own
     // output is: plain lines then.
     const bool terminal = !remote && isatty(STDOUT_FILENO) == 1;
     progress_ = std::make_unique<SweepProgress>(out_, terminal, waiting.size());
-    const unsigned int jobs =
-        options_.jobs > 0 ? options_.jobs : std::max(1u, std::thread::hardware_concurrency());
     SweepRunner local(jobs);
     // Other ranks first: cancelling them takes no time, while this process's own runs
     // are waited for, and mpirun kills every rank soon after it interrupts them.
@@ -86,6 +88,16 @@ int SweepSession::run(SweepSlots* remote)
         return interrupt.getCancelledStatus();
     }
     return failed_ ? 1 : 0;
+}
+
+// The runs at a time share the default budget, so that together they hold no more than
+// one run alone would; a budget given is each run's own.
+SweepOptions SweepSession::withMemoryOfEachRun(unsigned int jobs) const
+{
+    SweepOptions each = options_;
+    if (each.memory.empty())
+        each.memory = std::to_string(Tessaly::MemoryBudget::getDefaultLimit() / jobs);
+    return each;
 }
 
 void SweepSession::record(const std::string& run, const SweepSummary::Entry& entry)

@@ -38,6 +38,7 @@ public:
     void record(const std::string& run, const SweepSummary::Entry& entry) override;
 
 private:
+    SweepOptions withMemoryOfEachRun(unsigned int jobs) const;
     void schedule(std::deque<SweepJob> waiting, const std::vector<SweepSlots*>& slots,
                   const VRK::Task& task);
 
