@@ -55,9 +55,14 @@ std::string ScriptTextInput::readAll(std::istream& in, const std::string& descri
         reason = "the stream failed";
     if (!reason.empty())
         ExceptionUtils::raise<FileException>(description + " cannot be read: " + reason + ".");
+    dropByteOrderMark(text);
+    return text;
+}
+
+void ScriptTextInput::dropByteOrderMark(std::string& text)
+{
     if (text.compare(0, ByteOrderMark.size(), ByteOrderMark) == 0)
         text.erase(0, ByteOrderMark.size());
-    return text;
 }
 
 } // namespace VRK

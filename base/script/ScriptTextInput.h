@@ -15,6 +15,9 @@ public:
     // when the stream fails (a folder, a device that refuses to be read) or the text
     // does not fit in memory.
     static std::string readAll(std::istream& in, const std::string& description);
+    // Drops a UTF-8 byte-order mark at the head of `text`, for readers that take in their
+    // text line by line.
+    static void dropByteOrderMark(std::string& text);
 };
 
 } // namespace VRK

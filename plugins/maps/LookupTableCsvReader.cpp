@@ -3,6 +3,7 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/error/IllegalDataException.h"
 #include "base/error/UnableToAccessFileException.h"
+#include "base/script/ScriptTextInput.h"
 #include "base/util/PrintableText.h"
 #include "base/util/RealText.h"
 
@@ -88,6 +89,8 @@ std::shared_ptr<const Tessaly::LookupTable> LookupTableCsvReader::read(std::istr
     Lines lines(name);
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {
+        if (number == 1)
+            VRK::ScriptTextInput::dropByteOrderMark(line);
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
         if (!boost::algorithm::trim_copy(line).empty())

@@ -43,6 +43,10 @@ TEST(LookupTableCsv, ReadsPairsWithOrWithoutHeader)
     EXPECT_EQ(readText("")->size(), 0u);
     EXPECT_EQ(readText("Class, Weight\n")->size(), 0u);
     EXPECT_TRUE(std::isnan(readText("1,nan\n")->getValue(1)));
+
+    // As saved by spreadsheets, with a byte-order mark before the header or the first key.
+    EXPECT_EQ(readText("\xEF\xBB\xBF" "key,value\n4,40\n")->size(), 1u);
+    EXPECT_EQ(readText("\xEF\xBB\xBF" "4,40\n5,50\n")->getValue(4), 40);
 }
 
 TEST(LookupTableCsv, BadLinesAreLocated)
