@@ -93,6 +93,15 @@ TEST(LineBuffer, GivesLinesFromOneWithoutBreaks)
     EXPECT_EQ(buffer.getLineCount(), 4u);
     EXPECT_EQ(VRK::LineBuffer("end\n").getLineCount(), 2u);
     EXPECT_EQ(VRK::LineBuffer("").getLineCount(), 1u);
+
+    // A lone carriage return ends a line, as the script readers count lines.
+    VRK::LineBuffer returns("one\rtwo\r\rfour\r\n\rsix");
+    EXPECT_EQ(returns.getLineCount(), 6u);
+    EXPECT_EQ(returns.getLine(2), "two");
+    EXPECT_EQ(returns.getLine(3), "");
+    EXPECT_EQ(returns.getLine(4), "four");
+    EXPECT_EQ(returns.getLine(5), "");
+    EXPECT_EQ(returns.getLine(6), "six");
 }
 
 TEST(PrintableText, EscapesWhatATerminalWouldNotShow)
