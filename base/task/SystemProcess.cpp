@@ -9,10 +9,12 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 extern char** environ;
@@ -26,18 +28,30 @@ constexpr auto pollInterval = std::chrono::milliseconds(10);
 constexpr unsigned int killGraceMilliseconds = 200;
 
 // A group of its own, so that the program's own children are ended with it, and
-// Ctrl-C at a terminal reaches this host alone, which then ends the group.
+// Ctrl-C at a terminal reaches this host alone, which then ends the group. A group that
+// is not the terminal's foreground would be stopped when it reads the terminal, so a
+// program then reads an empty input instead; input from a pipe or a file it still reads.
 int spawnInOwnGroup(pid_t& pid, const std::string& executable, char* const argv[])
 {
     posix_spawnattr_t attributes;
     int error = ::posix_spawnattr_init(&attributes);
     if (error != 0)
         return error;
-    error = ::posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawn_file_actions_t files;
+    error = ::posix_spawn_file_actions_init(&files);
+    if (error != 0) {
+        ::posix_spawnattr_destroy(&attributes);
+        return error;
+    }
+    if (::isatty(STDIN_FILENO) == 1)
+        error = ::posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    if (error == 0)
+        error = ::posix_spawnattr_setpgroup(&attributes, 0);
     if (error == 0)
         error = ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
     if (error == 0)
-        error = ::posix_spawnp(&pid, executable.c_str(), nullptr, &attributes, argv, environ);
+        error = ::posix_spawnp(&pid, executable.c_str(), &files, &attributes, argv, environ);
+    ::posix_spawn_file_actions_destroy(&files);
     ::posix_spawnattr_destroy(&attributes);
     return error;
 }

@@ -208,5 +208,20 @@ for scheduler in sequential parallel auto; do
     [ "$out" = "$expected" ] || fail "failing program ($scheduler): printed '$out'"
 done
 
+# A program that reads its input: from vrk's terminal it reads an empty input rather
+# than stopping the run, as its group is not the terminal's; from a pipe it reads what
+# the pipe gives.
+cat > reading.vrk <<'SCRIPT'
+RunExternalProcess fileName = "sh" parameters = "-c 'read -r line; echo \"$? $line\" > read.txt'";
+SCRIPT
+rm -f read.txt
+if command -v script > /dev/null; then
+    timeout 20 script -qec "'$vrk' run reading.vrk --log-level .error" /dev/null > /dev/null
+    [ "$(cat read.txt 2>/dev/null)" = "1 " ] ||
+        fail "reading the terminal: read '$(cat read.txt 2>/dev/null)', the run stopped?"
+fi
+echo piped | "$vrk" run reading.vrk --log-level .error
+[ "$(cat read.txt)" = "0 piped" ] || fail "reading a pipe: read '$(cat read.txt)'"
+
 [ "$failed" -eq 0 ] && echo "external processes waited for, left running, cancelled and kept from any shell"
 [ "$failed" -eq 0 ]
