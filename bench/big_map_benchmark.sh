@@ -84,16 +84,19 @@ fi
 # The peer reads the same GeoTIFFs in place and writes the same kind of file; its
 # region is the maps' grid. Its calculations run on one thread (the version packaged
 # here has no option for more); its compression uses the processors given.
-grass -c EPSG:3857 "$folder/grassdb/bench" -e > /dev/null 2>&1
-peer() { grass "$folder/grassdb/bench/PERMANENT" --exec "$@"; }
-peer r.external input=a.tif output=a --quiet > /dev/null 2>&1
-peer r.external input=b.tif output=b --quiet > /dev/null 2>&1
-peer g.region raster=a --quiet
-peer r.external.out directory="$folder" format=GTiff \
+# The inputs have no projection: the peer's location is a plain grid, and its links to
+# the files are told not to compare projections.
+grass -c XY "$folder/grassdb/bench" -e > /dev/null 2>&1
+in_peer=(grass "$folder/grassdb/bench/PERMANENT" --exec)
+peer() { "${in_peer[@]}" "$@"; }
+peer r.external -o input=a.tif output=a --quiet > /dev/null 2>&1
+peer r.external -o input=b.tif output=b --quiet > /dev/null 2>&1
+peer g.region raster=a --quiet > /dev/null 2>&1
+peer r.external.out directory="$folder" format=GTiff extension=tif \
     options="TILED=YES,COMPRESS=DEFLATE,BIGTIFF=IF_SAFER,NUM_THREADS=$processors" > /dev/null 2>&1
-measure "if (GRASS r.mapcalc)" peer r.mapcalc "expression=peer_if = if(a > 0, a * 2 + b, 0)" \
+measure "if (GRASS r.mapcalc)" "${in_peer[@]}" r.mapcalc "expression=peer_if = if(a > 0, a * 2 + b, 0)" \
     --overwrite
-measure "nbsum (GRASS r.neighbors)" peer r.neighbors input=a output=peer_nbsum size=5 \
+measure "nbsum (GRASS r.neighbors)" "${in_peer[@]}" r.neighbors input=a output=peer_nbsum size=5 \
     method=sum --overwrite
 ratio() { # time and memory of $1 over $2
     read -r mine_kib mine_s < "$1.figures"
