@@ -3,8 +3,7 @@
 namespace Maps {
 
 NamedLookupTableRegistratorType::NamedLookupTableRegistratorType()
-    : VRK::BaseType("NamedLookupTableRegistrator",
-                    "Functors with named lookup table registration capabilities")
+    : Prim::RegistratorType("named lookup table")
 {
 }
 

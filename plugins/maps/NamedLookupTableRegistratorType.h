@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_MAPS_NAMEDLOOKUPTABLEREGISTRATORTYPE_H
 #define VRK_PLUGINS_MAPS_NAMEDLOOKUPTABLEREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Maps {
 
-// The type of functors that offer a capability; no data has it.
-class NamedLookupTableRegistratorType : public VRK::BaseType {
+// The type of the functors that register named lookup tables.
+class NamedLookupTableRegistratorType : public Prim::RegistratorType {
 public:
     NamedLookupTableRegistratorType();
     ~NamedLookupTableRegistratorType() override;

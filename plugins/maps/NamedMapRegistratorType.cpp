@@ -2,10 +2,7 @@
 
 namespace Maps {
 
-NamedMapRegistratorType::NamedMapRegistratorType()
-    : VRK::BaseType("NamedMapRegistrator", "Functors with named map registration capabilities")
-{
-}
+NamedMapRegistratorType::NamedMapRegistratorType() : Prim::RegistratorType("named map") {}
 
 NamedMapRegistratorType::~NamedMapRegistratorType() = default;
 

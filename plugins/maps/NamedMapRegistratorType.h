@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_MAPS_NAMEDMAPREGISTRATORTYPE_H
 #define VRK_PLUGINS_MAPS_NAMEDMAPREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Maps {
 
-// The type of functors that offer a capability; no data has it.
-class NamedMapRegistratorType : public VRK::BaseType {
+// The type of the functors that register named maps.
+class NamedMapRegistratorType : public Prim::RegistratorType {
 public:
     NamedMapRegistratorType();
     ~NamedMapRegistratorType() override;

@@ -3,8 +3,7 @@
 namespace Maps {
 
 NumberedLookupTableRegistratorType::NumberedLookupTableRegistratorType()
-    : VRK::BaseType("NumberedLookupTableRegistrator",
-                    "Functors with numbered lookup table registration capabilities")
+    : Prim::RegistratorType("numbered lookup table")
 {
 }
 

@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_MAPS_NUMBEREDLOOKUPTABLEREGISTRATORTYPE_H
 #define VRK_PLUGINS_MAPS_NUMBEREDLOOKUPTABLEREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Maps {
 
-// The type of functors that offer a capability; no data has it.
-class NumberedLookupTableRegistratorType : public VRK::BaseType {
+// The type of the functors that register numbered lookup tables.
+class NumberedLookupTableRegistratorType : public Prim::RegistratorType {
 public:
     NumberedLookupTableRegistratorType();
     ~NumberedLookupTableRegistratorType() override;

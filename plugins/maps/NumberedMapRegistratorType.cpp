@@ -2,11 +2,7 @@
 
 namespace Maps {
 
-NumberedMapRegistratorType::NumberedMapRegistratorType()
-    : VRK::BaseType("NumberedMapRegistrator",
-                    "Functors with numbered map registration capabilities")
-{
-}
+NumberedMapRegistratorType::NumberedMapRegistratorType() : Prim::RegistratorType("numbered map") {}
 
 NumberedMapRegistratorType::~NumberedMapRegistratorType() = default;
 

@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_MAPS_NUMBEREDMAPREGISTRATORTYPE_H
 #define VRK_PLUGINS_MAPS_NUMBEREDMAPREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Maps {
 
-// The type of functors that offer a capability; no data has it.
-class NumberedMapRegistratorType : public VRK::BaseType {
+// The type of the functors that register numbered maps.
+class NumberedMapRegistratorType : public Prim::RegistratorType {
 public:
     NumberedMapRegistratorType();
     ~NumberedMapRegistratorType() override;

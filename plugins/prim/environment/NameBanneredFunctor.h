@@ -2,29 +2,21 @@
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NAMEBANNEREDFUNCTOR_H
 
 #include "base/graph/Functor.h"
-
-#include <memory>
-#include <string>
-#include <string_view>
+#include "plugins/prim/environment/KeyBanneredFunctor.h"
+#include "plugins/prim/environment/RegistratorBanner.h"
 
 namespace Prim {
 
 // A functor known by a name: its box shows the name typed into its name port.
-class NameBanneredFunctor : public VRK::Functor {
+class NameBanneredFunctor : public KeyBanneredFunctor<VRK::Functor, &RegistratorBanner::name> {
 public:
-    NameBanneredFunctor(const NameBanneredFunctor&) = default;
-    NameBanneredFunctor& operator=(const NameBanneredFunctor&) = default;
     ~NameBanneredFunctor() override;
 
-    bool hasBanner() const override;
-    std::string getBanner() const override;
+    // The type of the key port.
+    static std::shared_ptr<VRK::BaseType> getKeyType();
 
 protected:
-    NameBanneredFunctor(std::string_view name, std::string_view description,
-                        const std::string& namePort, const std::shared_ptr<VRK::BaseType>& type);
-
-private:
-    std::string namePort_;
+    using KeyBanneredFunctor::KeyBanneredFunctor;
 };
 
 } // namespace Prim

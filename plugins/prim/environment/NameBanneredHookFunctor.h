@@ -2,30 +2,24 @@
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NAMEBANNEREDHOOKFUNCTOR_H
 
 #include "base/graph/HookFunctor.h"
-
-#include <memory>
-#include <string>
-#include <string_view>
+#include "plugins/prim/environment/KeyBanneredFunctor.h"
+#include "plugins/prim/environment/RegistratorBanner.h"
 
 namespace Prim {
 
 // A hook functor known by a name: its box shows the name typed into its name port.
-class NameBanneredHookFunctor : public VRK::HookFunctor {
+class NameBanneredHookFunctor
+    : public KeyBanneredFunctor<VRK::HookFunctor, &RegistratorBanner::name> {
 public:
-    NameBanneredHookFunctor(const NameBanneredHookFunctor&) = default;
-    NameBanneredHookFunctor& operator=(const NameBanneredHookFunctor&) = default;
     ~NameBanneredHookFunctor() override;
 
-    bool hasBanner() const override;
-    std::string getBanner() const override;
+    // The type of the key port.
+    static std::shared_ptr<VRK::BaseType> getKeyType();
+    // Whether the key is a number rather than a name.
+    static constexpr bool isNumbered = false;
 
 protected:
-    NameBanneredHookFunctor(std::string_view name, std::string_view description,
-                            const std::string& namePort,
-                            const std::shared_ptr<VRK::BaseType>& type);
-
-private:
-    std::string namePort_;
+    using KeyBanneredFunctor::KeyBanneredFunctor;
 };
 
 } // namespace Prim

@@ -2,10 +2,7 @@
 
 namespace Prim {
 
-NamedValueRegistratorType::NamedValueRegistratorType()
-    : VRK::BaseType("NamedValueRegistrator", "Functors with named value registration capabilities")
-{
-}
+NamedValueRegistratorType::NamedValueRegistratorType() : RegistratorType("named value") {}
 
 NamedValueRegistratorType::~NamedValueRegistratorType() = default;
 

@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_NAMEDVALUEREGISTRATORTYPE_H
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NAMEDVALUEREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Prim {
 
-// The type of functors that offer a capability; no data has it.
-class NamedValueRegistratorType : public VRK::BaseType {
+// The type of the functors that register named values.
+class NamedValueRegistratorType : public RegistratorType {
 public:
     NamedValueRegistratorType();
     ~NamedValueRegistratorType() override;

@@ -2,18 +2,19 @@
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBERFOLDERFUNCTOR_H
 
 #include "plugins/prim/environment/NumberBanneredHookFunctor.h"
+#include "plugins/prim/environment/NumberedFolderRegistratorType.h"
+#include "plugins/prim/environment/RegistratorFunctor.h"
+#include "plugins/prim/files/FolderType.h"
 
 namespace Prim {
 
 // Names a folder with a number, for a series of folders.
-class NumberFolder : public NumberBanneredHookFunctor {
+class NumberFolder
+    : public RegistratorFunctor<NumberBanneredHookFunctor, FolderType,
+                                NumberedFolderRegistratorType, &RegistratorBanner::folderValue> {
 public:
     NumberFolder();
-    NumberFolder(const NumberFolder&) = default;
-    NumberFolder& operator=(const NumberFolder&) = default;
     ~NumberFolder() override;
-
-    std::string getBanner() const override;
 };
 
 } // namespace Prim

@@ -2,18 +2,19 @@
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBERVALUEFUNCTOR_H
 
 #include "plugins/prim/environment/NumberBanneredHookFunctor.h"
+#include "plugins/prim/environment/NumberedValueRegistratorType.h"
+#include "plugins/prim/environment/RegistratorFunctor.h"
+#include "plugins/prim/values/numbers/DoubleType.h"
 
 namespace Prim {
 
 // Names a real value with a number, for the container's numbered values ("v1" ...).
-class NumberValue : public NumberBanneredHookFunctor {
+class NumberValue
+    : public RegistratorFunctor<NumberBanneredHookFunctor, DoubleType, NumberedValueRegistratorType,
+                                &RegistratorBanner::realValue> {
 public:
     NumberValue();
-    NumberValue(const NumberValue&) = default;
-    NumberValue& operator=(const NumberValue&) = default;
     ~NumberValue() override;
-
-    std::string getBanner() const override;
 };
 
 } // namespace Prim

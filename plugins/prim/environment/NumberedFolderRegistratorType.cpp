@@ -2,9 +2,7 @@
 
 namespace Prim {
 
-NumberedFolderRegistratorType::NumberedFolderRegistratorType()
-    : VRK::BaseType("NumberedFolderRegistrator",
-                    "Functors with numbered folder registration capabilities")
+NumberedFolderRegistratorType::NumberedFolderRegistratorType() : RegistratorType("numbered folder")
 {
 }
 

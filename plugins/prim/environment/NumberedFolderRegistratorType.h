@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBEREDFOLDERREGISTRATORTYPE_H
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBEREDFOLDERREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Prim {
 
-// The type of functors that offer a capability; no data has it.
-class NumberedFolderRegistratorType : public VRK::BaseType {
+// The type of the functors that register numbered folders.
+class NumberedFolderRegistratorType : public RegistratorType {
 public:
     NumberedFolderRegistratorType();
     ~NumberedFolderRegistratorType() override;

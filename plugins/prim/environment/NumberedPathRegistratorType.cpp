@@ -2,11 +2,7 @@
 
 namespace Prim {
 
-NumberedPathRegistratorType::NumberedPathRegistratorType()
-    : VRK::BaseType("NumberedPathRegistrator",
-                    "Functors with numbered path registration capabilities")
-{
-}
+NumberedPathRegistratorType::NumberedPathRegistratorType() : RegistratorType("numbered path") {}
 
 NumberedPathRegistratorType::~NumberedPathRegistratorType() = default;
 

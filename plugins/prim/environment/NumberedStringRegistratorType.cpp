@@ -2,9 +2,7 @@
 
 namespace Prim {
 
-NumberedStringRegistratorType::NumberedStringRegistratorType()
-    : VRK::BaseType("NumberedStringRegistrator",
-                    "Functors with numbered string registration capabilities")
+NumberedStringRegistratorType::NumberedStringRegistratorType() : RegistratorType("numbered string")
 {
 }
 

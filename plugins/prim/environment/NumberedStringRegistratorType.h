@@ -1,12 +1,12 @@
 #ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBEREDSTRINGREGISTRATORTYPE_H
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_NUMBEREDSTRINGREGISTRATORTYPE_H
 
-#include "base/data/BaseType.h"
+#include "plugins/prim/environment/RegistratorType.h"
 
 namespace Prim {
 
-// The type of functors that offer a capability; no data has it.
-class NumberedStringRegistratorType : public VRK::BaseType {
+// The type of the functors that register numbered strings.
+class NumberedStringRegistratorType : public RegistratorType {
 public:
     NumberedStringRegistratorType();
     ~NumberedStringRegistratorType() override;

@@ -2,11 +2,7 @@
 
 namespace Prim {
 
-NumberedValueRegistratorType::NumberedValueRegistratorType()
-    : VRK::BaseType("NumberedValueRegistrator",
-                    "Functors with numbered value registration capabilities")
-{
-}
+NumberedValueRegistratorType::NumberedValueRegistratorType() : RegistratorType("numbered value") {}
 
 NumberedValueRegistratorType::~NumberedValueRegistratorType() = default;
 

@@ -1,0 +1,23 @@
+#ifndef VRK_PLUGINS_PRIM_ENVIRONMENT_REGISTRATORTYPE_H
+#define VRK_PLUGINS_PRIM_ENVIRONMENT_REGISTRATORTYPE_H
+
+#include "base/data/BaseType.h"
+
+#include <string>
+
+namespace Prim {
+
+// The type of the functors that register one kind of value under a number or a name; no
+// data has it. The words of the kind ("numbered lookup table") make both the type's name
+// ("NumberedLookupTableRegistrator") and its description.
+class RegistratorType : public VRK::BaseType {
+public:
+    ~RegistratorType() override;
+
+protected:
+    explicit RegistratorType(const std::string& words);
+};
+
+} // namespace Prim
+
+#endif
