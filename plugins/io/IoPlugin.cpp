@@ -9,9 +9,8 @@
 #include "plugins/io/SaveTextFunctor.h"
 #include "plugins/io/TextFileData.h"
 #include "plugins/io/TextFileEditor.h"
-#include "plugins/io/TextFileReader.h"
 #include "plugins/io/TextFileType.h"
-#include "plugins/prim/files/FilenameWriter.h"
+#include "plugins/prim/files/FileKindRegistrar.h"
 #include "plugins/prim/files/StringToFilenameDataConverter.h"
 
 namespace {
@@ -21,13 +20,7 @@ void registerTextFiles(Prim::PrimRegistrar& registrar)
 {
     const std::string group = "Input/Output";
     VRK::Singleton<Io::TextFileType>::getInstance();
-    registrar.registerData<Io::TextFileData>();
-    registrar.registerDataHolder<Io::TextFileEditor>();
-    registrar.registerDataReader<Io::TextFileReader<VRK::ScriptScanner>, VRK::ScriptScanner>(
-        "TextFile", group, VRK::ScriptScannerName);
-    registrar.registerDataReader<Io::TextFileReader<VRK::PlainScanner>, VRK::PlainScanner>(
-        "TextFile", group, VRK::PlainScannerName);
-    registrar.registerDataWriter<Prim::FilenameWriter>("TextFile", group);
+    Prim::FileKindRegistrar::registerKind<Io::TextFileKind>(registrar, group);
     registrar.registerDataConverter<Prim::StringToFilenameDataConverter<Io::TextFileData>>(
         group, "String", "TextFile");
 }

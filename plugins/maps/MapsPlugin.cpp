@@ -12,7 +12,6 @@
 #include "plugins/maps/MapData.h"
 #include "plugins/maps/MapFileData.h"
 #include "plugins/maps/MapFileEditor.h"
-#include "plugins/maps/MapFileReader.h"
 #include "plugins/maps/MapFileType.h"
 #include "plugins/maps/MapType.h"
 #include "plugins/maps/MuxMapFunctor.h"
@@ -28,9 +27,8 @@
 #include "plugins/maps/SaveMapFunctor.h"
 #include "plugins/maps/TableFileData.h"
 #include "plugins/maps/TableFileEditor.h"
-#include "plugins/maps/TableFileReader.h"
 #include "plugins/maps/TableFileType.h"
-#include "plugins/prim/files/FilenameWriter.h"
+#include "plugins/prim/files/FileKindRegistrar.h"
 #include "plugins/prim/files/StringToFilenameDataConverter.h"
 #include "plugins/prim/registry/PrimRegistrar.h"
 #include "tessaly/images/LookupTableData.h"
@@ -39,19 +37,6 @@
 namespace {
 
 const char* const InputOutput = "Input/Output";
-
-// A filename type with everything that reads, writes and copies its values.
-template <class DataT, class EditorT, template <class> class ReaderT>
-void registerFilenames(Prim::PrimRegistrar& registrar, const std::string& name)
-{
-    registrar.registerData<DataT>();
-    registrar.registerDataHolder<EditorT>();
-    registrar.registerDataReader<ReaderT<VRK::ScriptScanner>, VRK::ScriptScanner>(
-        name, InputOutput, VRK::ScriptScannerName);
-    registrar.registerDataReader<ReaderT<VRK::PlainScanner>, VRK::PlainScanner>(
-        name, InputOutput, VRK::PlainScannerName);
-    registrar.registerDataWriter<Prim::FilenameWriter>(name, InputOutput);
-}
 
 // Maps and tables are made by functors only: their data is copied, never typed in.
 void registerTypes(Prim::PrimRegistrar& registrar)
@@ -66,10 +51,8 @@ void registerTypes(Prim::PrimRegistrar& registrar)
     Maps::TableFileType::getInstance();
     registrar.registerData<Maps::MapData>();
     registrar.registerData<Tessaly::LookupTableData>();
-    registerFilenames<Maps::MapFileData, Maps::MapFileEditor, Maps::MapFileReader>(registrar,
-                                                                                   "MapFile");
-    registerFilenames<Maps::TableFileData, Maps::TableFileEditor, Maps::TableFileReader>(
-        registrar, "TableFile");
+    Prim::FileKindRegistrar::registerKind<Maps::MapFileKind>(registrar, InputOutput);
+    Prim::FileKindRegistrar::registerKind<Maps::TableFileKind>(registrar, InputOutput);
     // Names built by CreateString or a numbered registrator feed the file inputs.
     registrar.registerDataConverter<Prim::StringToFilenameDataConverter<Maps::MapFileData>>(
         InputOutput, "String", "MapFile");

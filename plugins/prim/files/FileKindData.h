@@ -7,9 +7,9 @@
 
 namespace Prim {
 
-// The name of a file of one kind, held as a compound filename. A kind (KindT) is a plugin's
-// file type: it names the kind's Data, Editor, Viewer and Type classes, the type's name
-// and description, and the `word` by which messages name such a file ("text file").
+// The name of a file of one kind, held as a compound filename. A kind (KindT, see FileKind)
+// is a plugin's file type: it names the kind's Data, Editor, Viewer and Type classes, the
+// type's name, and the `word` by which messages name such a file ("text file").
 template <class KindT>
 class FileKindData
     : public VRK::Data<CompoundFilename, typename KindT::Viewer, typename KindT::Editor>,

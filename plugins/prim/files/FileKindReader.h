@@ -17,7 +17,7 @@ public:
 
 template <class KindT, class ScannerT>
 FileKindReader<KindT, ScannerT>::FileKindReader(VRK::DataEditor* dataEditor)
-    : FilenameReader<ScannerT>(dataEditor, std::string(KindT::description) + " name")
+    : FilenameReader<ScannerT>(dataEditor, KindT::description() + " name")
 {
     // Only an editor of the kind may be read as a name of the kind.
     PrimEditorUtils::editorOf<typename KindT::Editor>(dataEditor);

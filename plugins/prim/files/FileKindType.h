@@ -10,7 +10,8 @@ template <class KindT>
 class FileKindType : public VRK::TypeShim<typename KindT::Type, typename KindT::Data> {
 protected:
     FileKindType()
-        : VRK::TypeShim<typename KindT::Type, typename KindT::Data>(KindT::name, KindT::description)
+        : VRK::TypeShim<typename KindT::Type, typename KindT::Data>(KindT::name,
+                                                                    KindT::description())
     {
     }
 };
