@@ -18,11 +18,6 @@ namespace {
 
 const char* const ResultPort = "result";
 
-bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>& type)
-{
-    return functor.getType()->getName() == type->getName();
-}
-
 } // namespace
 
 CalculateValue::CalculateValue()
@@ -40,9 +35,10 @@ bool CalculateValue::isCompatible(VRK::Functor* functor) const
 {
     assert(functor != 0 && "functor != 0");
     return functor->getType() != 0
-           && (hasTypeOf(*functor, VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance())
-               || hasTypeOf(*functor,
-                            VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance()));
+           && (VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance()->registers(
+                   *functor)
+               || VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance()->registers(
+                   *functor));
 }
 
 void CalculateValue::calculate()

@@ -38,11 +38,6 @@ void registerAll(std::map<std::string, std::shared_ptr<const T>>& entities,
         entities, container, port + "Name", port, named, VRK::EnvironmentUtils::SameKey());
 }
 
-bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>& type)
-{
-    return functor.getType()->getName() == type->getName();
-}
-
 } // namespace
 
 CalculationEnvironment::CalculationEnvironment(const VRK::ContainerFunctor& container)
@@ -129,15 +124,15 @@ bool CalculationEnvironment::isRegistrator(const VRK::Functor& functor)
 {
     if (functor.getType() == 0)
         return false;
-    const std::shared_ptr<VRK::BaseType> registrators[] = {
+    const std::shared_ptr<Prim::RegistratorType> registrators[] = {
         VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance(),
         VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance(),
         VRK::Singleton<NumberedMapRegistratorType>::getInstance(),
         VRK::Singleton<NamedMapRegistratorType>::getInstance(),
         VRK::Singleton<NumberedLookupTableRegistratorType>::getInstance(),
         VRK::Singleton<NamedLookupTableRegistratorType>::getInstance()};
-    for (const std::shared_ptr<VRK::BaseType>& type : registrators)
-        if (hasTypeOf(functor, type))
+    for (const std::shared_ptr<Prim::RegistratorType>& type : registrators)
+        if (type->registers(functor))
             return true;
     return false;
 }

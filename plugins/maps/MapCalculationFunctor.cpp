@@ -12,7 +12,6 @@
 #include "tessaly/raster/MemoryRasterSource.h"
 #include "tessaly/raster/StripCalculator.h"
 
-#include <cassert>
 #include <functional>
 
 namespace Maps {
@@ -27,10 +26,10 @@ const char* const ResultPort = "result";
 MapCalculationFunctor::MapCalculationFunctor(const std::string& name,
                                              const std::string& description,
                                              Tessaly::CellType cellType, bool namedImage)
-    : Prim::FormulaFunctor(name, description,
-                           "The formula, over numbered (i1, t1, v1) and named (#map, %table, "
-                           "$value) maps, tables and values.",
-                           namedImage ? "#image" : "i1"),
+    : MapsFormulaFunctor(name, description,
+                         "The formula, over numbered (i1, t1, v1) and named (#map, %table, "
+                         "$value) maps, tables and values.",
+                         namedImage ? "#image" : "i1"),
       cellType_(cellType), namedImage_(namedImage)
 {
     if (namedImage)
@@ -41,12 +40,6 @@ MapCalculationFunctor::MapCalculationFunctor(const std::string& name,
 }
 
 MapCalculationFunctor::~MapCalculationFunctor() = default;
-
-bool MapCalculationFunctor::isCompatible(VRK::Functor* functor) const
-{
-    assert(functor != 0 && "functor != 0");
-    return CalculationEnvironment::isRegistrator(*functor);
-}
 
 // The calculator refuses maps on different grids and a formula without a map.
 void MapCalculationFunctor::calculate()

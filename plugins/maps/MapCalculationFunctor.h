@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
 #define VRK_PLUGINS_MAPS_MAPCALCULATIONFUNCTOR_H
 
-#include "plugins/prim/formula/FormulaFunctor.h"
+#include "plugins/maps/MapsFormulaFunctor.h"
 #include "tessaly/images/Raster.h"
 #include "tessaly/images/TopLevelImageExpression.h"
 #include "tessaly/raster/RasterSource.h"
@@ -17,12 +17,9 @@ namespace Maps {
 // the formula names #image, when it has one), and publishes the map on "result". The
 // calculation runs under the processor count in force and stops when the run is
 // cancelled.
-class MapCalculationFunctor : public Prim::FormulaFunctor {
+class MapCalculationFunctor : public MapsFormulaFunctor {
 public:
-    MapCalculationFunctor(const MapCalculationFunctor&) = default;
     ~MapCalculationFunctor() override;
-
-    bool isCompatible(VRK::Functor* functor) const override;
 
 protected:
     // `namedImage`: the functor has the input "image".

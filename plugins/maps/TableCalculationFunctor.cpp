@@ -6,8 +6,6 @@
 #include "tessaly/images/LookupTableData.h"
 #include "tessaly/images/LookupTableType.h"
 
-#include <cassert>
-
 namespace Maps {
 
 namespace {
@@ -42,10 +40,10 @@ evaluateForEachKey(const Tessaly::TopLevelImageExpression& expression,
 
 TableCalculationFunctor::TableCalculationFunctor(const std::string& name,
                                                  const std::string& description, bool namedTable)
-    : Prim::FormulaFunctor(name, description,
-                           "The formula, over numbered (t1, v1) and named (%table, $value) "
-                           "tables and values; line stands for the key.",
-                           namedTable ? "%table[line]" : "t1[line]"),
+    : MapsFormulaFunctor(name, description,
+                         "The formula, over numbered (t1, v1) and named (%table, $value) "
+                         "tables and values; line stands for the key.",
+                         namedTable ? "%table[line]" : "t1[line]"),
       namedTable_(namedTable)
 {
     if (namedTable)
@@ -56,12 +54,6 @@ TableCalculationFunctor::TableCalculationFunctor(const std::string& name,
 }
 
 TableCalculationFunctor::~TableCalculationFunctor() = default;
-
-bool TableCalculationFunctor::isCompatible(VRK::Functor* functor) const
-{
-    assert(functor != 0 && "functor != 0");
-    return CalculationEnvironment::isRegistrator(*functor);
-}
 
 void TableCalculationFunctor::calculate()
 {

@@ -1,7 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
 #define VRK_PLUGINS_MAPS_TABLECALCULATIONFUNCTOR_H
 
-#include "plugins/prim/formula/FormulaFunctor.h"
+#include "plugins/maps/MapsFormulaFunctor.h"
 #include "tessaly/images/LookupTable.h"
 
 #include <memory>
@@ -14,12 +14,9 @@ namespace Maps {
 // the same keys with the formula's values (null where the formula gives null). The keys
 // are those of its input "table" when it has one (the formula names it %table), else of
 // the first table that the formula names.
-class TableCalculationFunctor : public Prim::FormulaFunctor {
+class TableCalculationFunctor : public MapsFormulaFunctor {
 public:
-    TableCalculationFunctor(const TableCalculationFunctor&) = default;
     ~TableCalculationFunctor() override;
-
-    bool isCompatible(VRK::Functor* functor) const override;
 
 protected:
     // `namedTable`: the functor has the input "table".

@@ -24,11 +24,6 @@ const char* const ResultPort = "result";
 const char* const ValuePort = "value";
 const char* const NumberPort = "valueNumber";
 
-bool hasTypeOf(const VRK::Functor& functor, const std::shared_ptr<VRK::BaseType>& type)
-{
-    return functor.getType()->getName() == type->getName();
-}
-
 } // namespace
 
 CreateString::CreateString()
@@ -63,9 +58,9 @@ bool CreateString::isCompatible(VRK::Functor* functor) const
 {
     assert(functor != 0 && "functor != 0");
     return functor->getType() != 0
-           && (hasTypeOf(*functor, VRK::Singleton<NumberedValueRegistratorType>::getInstance())
-               || hasTypeOf(*functor,
-                            VRK::Singleton<NumberedStringRegistratorType>::getInstance()));
+           && (VRK::Singleton<NumberedValueRegistratorType>::getInstance()->registers(*functor)
+               || VRK::Singleton<NumberedStringRegistratorType>::getInstance()->registers(
+                   *functor));
 }
 
 void CreateString::runContainerImpl()
@@ -85,13 +80,13 @@ void CreateString::collect(std::map<int, double>& values, std::map<int, std::str
         VRK::Functor* functor = functors.next();
         assert(functor != 0 && "functor != 0");
         assert(functor->getType() != 0 && "functor->getType() != 0");
-        if (hasTypeOf(*functor, VRK::Singleton<NumberedValueRegistratorType>::getInstance())) {
+        if (VRK::Singleton<NumberedValueRegistratorType>::getInstance()->registers(*functor)) {
             auto* numberValue = dynamic_cast<NumberValue*>(functor);
             assert(numberValue != 0 && "numberValue != 0");
             values[numberValue->getInputPortValue<IntData>(NumberPort)] =
                 numberValue->getInputPortValue<DoubleData>(ValuePort);
-        } else if (hasTypeOf(*functor,
-                             VRK::Singleton<NumberedStringRegistratorType>::getInstance())) {
+        } else if (VRK::Singleton<NumberedStringRegistratorType>::getInstance()->registers(
+                       *functor)) {
             auto* numberString = dynamic_cast<NumberString*>(functor);
             assert(numberString != 0 && "numberString != 0");
             strings[numberString->getInputPortValue<IntData>(NumberPort)] =

@@ -30,4 +30,9 @@ RegistratorType::RegistratorType(const std::string& words)
 
 RegistratorType::~RegistratorType() = default;
 
+bool RegistratorType::registers(const VRK::Functor& functor) const
+{
+    return functor.getType()->getName() == getName();
+}
+
 } // namespace Prim

@@ -2,6 +2,7 @@
 #define VRK_PLUGINS_PRIM_ENVIRONMENT_REGISTRATORTYPE_H
 
 #include "base/data/BaseType.h"
+#include "base/graph/Functor.h"
 
 #include <string>
 
@@ -13,6 +14,10 @@ namespace Prim {
 class RegistratorType : public VRK::BaseType {
 public:
     ~RegistratorType() override;
+
+    // Whether `functor`, which has a type, is a registrator of this type. Types are told
+    // apart by name, the way the catalogue knows them.
+    bool registers(const VRK::Functor& functor) const;
 
 protected:
     explicit RegistratorType(const std::string& words);
