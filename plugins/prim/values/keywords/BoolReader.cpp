@@ -7,21 +7,15 @@
 namespace Prim {
 
 template <class ScannerT>
-BoolReader<ScannerT>::BoolReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting .yes, .no, .true or .false.")
+BoolReader<ScannerT>::BoolReader(VRK::DataEditor* dataEditor) : RuleReader<ScannerT>(dataEditor)
 {
     using namespace boost::spirit::classic;
     BoolEditor* editor = &PrimEditorUtils::editorOf<BoolEditor>(dataEditor);
     auto setTrue = [editor](auto, auto) { editor->setBool(true); };
     auto setFalse = [editor](auto, auto) { editor->setBool(false); };
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        (str_p(".yes") | ".true")[setTrue] | (str_p(".no") | ".false")[setFalse], message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t BoolReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
+    this->setGrammar(VRK::Spirit::transduced_assertive_p((str_p(".yes") | ".true")[setTrue]
+                                                             | (str_p(".no") | ".false")[setFalse],
+                                                         "Expecting .yes, .no, .true or .false."));
 }
 
 template class BoolReader<VRK::ScriptScanner>;

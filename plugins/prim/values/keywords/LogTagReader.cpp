@@ -8,8 +8,7 @@
 namespace Prim {
 
 template <class ScannerT>
-LogTagReader<ScannerT>::LogTagReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a log level.")
+LogTagReader<ScannerT>::LogTagReader(VRK::DataEditor* dataEditor) : RuleReader<ScannerT>(dataEditor)
 {
     using namespace boost::spirit::classic;
     LogTagEditor* editor = &PrimEditorUtils::editorOf<LogTagEditor>(dataEditor);
@@ -19,17 +18,11 @@ LogTagReader<ScannerT>::LogTagReader(VRK::DataEditor* dataEditor)
     };
     // Keywords are plain literals tried in this order; ".info" before ".info2" and
     // ".debug" before ".debug2" is how scripts have always been read.
-    grammar_ = VRK::Spirit::transduced_assertive_p(
+    this->setGrammar(VRK::Spirit::transduced_assertive_p(
         keyword(VRK::unconditional) | keyword(VRK::result) | keyword(VRK::error)
-            | keyword(VRK::warning) | keyword(VRK::info) | keyword(VRK::info2)
-            | keyword(VRK::debug) | keyword(VRK::debug2) | keyword(VRK::trace),
-        message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t LogTagReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
+            | keyword(VRK::warning) | keyword(VRK::info) | keyword(VRK::info2) | keyword(VRK::debug)
+            | keyword(VRK::debug2) | keyword(VRK::trace),
+        "Expecting a log level."));
 }
 
 template class LogTagReader<VRK::ScriptScanner>;

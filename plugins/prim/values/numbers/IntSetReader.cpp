@@ -7,25 +7,19 @@
 namespace Prim {
 
 template <class ScannerT>
-IntSetReader<ScannerT>::IntSetReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a non-empty set of integers.")
+IntSetReader<ScannerT>::IntSetReader(VRK::DataEditor* dataEditor) : RuleReader<ScannerT>(dataEditor)
 {
     using namespace boost::spirit::classic;
     IntSetEditor* editor = &PrimEditorUtils::editorOf<IntSetEditor>(dataEditor);
     // Once "[" is read, whatever is not "]" must be an element: a missing element or a
     // missing "]" is reported where the element was expected.
-    auto element = VRK::Spirit::transduced_assertive_p(
-                       int_p[([editor](int value) { editor->addInt(value); })],
-                       "Expecting an integer.")
-                   >> !ch_p(',');
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        ch_p('[') >> element >> *(~eps_p(ch_p(']')) >> element) >> ']', message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t IntSetReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
+    auto element =
+        VRK::Spirit::transduced_assertive_p(int_p[([editor](int value) { editor->addInt(value); })],
+                                            "Expecting an integer.")
+        >> !ch_p(',');
+    this->setGrammar(VRK::Spirit::transduced_assertive_p(
+        ch_p('[') >> element >> *(~eps_p(ch_p(']')) >> element) >> ']',
+        "Expecting a non-empty set of integers."));
 }
 
 template class IntSetReader<VRK::ScriptScanner>;

@@ -9,7 +9,7 @@ namespace Prim {
 
 template <class ScannerT>
 PercentReader<ScannerT>::PercentReader(VRK::DataEditor* dataEditor)
-    : VRK::DataReader<ScannerT>(dataEditor), message_("Expecting a percent value.")
+    : RuleReader<ScannerT>(dataEditor)
 {
     using namespace boost::spirit::classic;
     PercentEditor* editor = &PrimEditorUtils::editorOf<PercentEditor>(dataEditor);
@@ -25,14 +25,9 @@ PercentReader<ScannerT>::PercentReader(VRK::DataEditor* dataEditor)
         percentage_ = false;
     };
     auto markPercentage = [this](char) { percentage_ = true; };
-    grammar_ = VRK::Spirit::transduced_assertive_p(
-        (Spirit::exact_real_p[readNumber] >> !ch_p('%')[markPercentage])[setPercent], message_);
-}
-
-template <class ScannerT>
-std::ptrdiff_t PercentReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
+    this->setGrammar(VRK::Spirit::transduced_assertive_p(
+        (Spirit::exact_real_p[readNumber] >> !ch_p('%')[markPercentage])[setPercent],
+        "Expecting a percent value."));
 }
 
 template class PercentReader<VRK::ScriptScanner>;

@@ -13,7 +13,7 @@ namespace Prim {
 template <class ScannerT>
 QuotedTextReader<ScannerT>::QuotedTextReader(VRK::DataEditor* dataEditor, const std::string& item,
                                              Escapes escapes, std::function<void(std::string)> set)
-    : VRK::DataReader<ScannerT>(dataEditor), set_(std::move(set))
+    : RuleReader<ScannerT>(dataEditor), set_(std::move(set))
 {
     using namespace boost::spirit::classic;
     const std::string message = "Expecting " + item + " enclosed by '\"'.";
@@ -27,15 +27,10 @@ QuotedTextReader<ScannerT>::QuotedTextReader(VRK::DataEditor* dataEditor, const 
         set_(std::move(value));
     };
     if (escapes == Escapes::backslash)
-        grammar_ = VRK::Spirit::transduced_assertive_p(quoted(lex_escape_ch_p)[setText], message);
+        this->setGrammar(
+            VRK::Spirit::transduced_assertive_p(quoted(lex_escape_ch_p)[setText], message));
     else
-        grammar_ = VRK::Spirit::transduced_assertive_p(quoted(anychar_p)[setText], message);
-}
-
-template <class ScannerT>
-std::ptrdiff_t QuotedTextReader<ScannerT>::read(const ScannerT& scan) const
-{
-    return grammar_.parse(scan).length();
+        this->setGrammar(VRK::Spirit::transduced_assertive_p(quoted(anychar_p)[setText], message));
 }
 
 template class QuotedTextReader<VRK::ScriptScanner>;

@@ -1,10 +1,7 @@
 #ifndef VRK_PLUGINS_PRIM_VALUES_TEXTS_QUOTEDTEXTREADER_H
 #define VRK_PLUGINS_PRIM_VALUES_TEXTS_QUOTEDTEXTREADER_H
 
-#include "base/data/DataReader.h"
-#include "base/parse/ScannerTypes.h"
-
-#include <boost/spirit/include/classic_core.hpp>
+#include "plugins/prim/values/RuleReader.h"
 
 #include <functional>
 #include <string>
@@ -15,14 +12,8 @@ namespace Prim {
 // editor. The readers of the textual types differ only in what they call the text,
 // whether a backslash protects the character after it, and their setter.
 template <class ScannerT>
-class QuotedTextReader : public VRK::DataReader<ScannerT> {
+class QuotedTextReader : public RuleReader<ScannerT> {
 public:
-    // The grammar's actions point into this reader.
-    QuotedTextReader(const QuotedTextReader&) = delete;
-    QuotedTextReader& operator=(const QuotedTextReader&) = delete;
-
-    std::ptrdiff_t read(const ScannerT& scan) const override;
-
 protected:
     enum class Escapes {
         // A backslash is an ordinary character, such as a path separator.
@@ -42,7 +33,6 @@ private:
     // The text between the quotes, as written.
     std::string text_;
     std::function<void(std::string)> set_;
-    boost::spirit::classic::rule<ScannerT> grammar_;
 };
 
 extern template class QuotedTextReader<VRK::ScriptScanner>;
