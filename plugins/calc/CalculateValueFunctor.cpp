@@ -1,6 +1,5 @@
 #include "plugins/calc/CalculateValueFunctor.h"
 
-#include "base/util/Singleton.h"
 #include "plugins/prim/environment/NamedValueRegistratorType.h"
 #include "plugins/prim/environment/NumberedValueRegistratorType.h"
 #include "plugins/prim/environment/PrimEnvironmentUtils.h"
@@ -34,11 +33,8 @@ CalculateValue::~CalculateValue() = default;
 bool CalculateValue::isCompatible(VRK::Functor* functor) const
 {
     assert(functor != 0 && "functor != 0");
-    return functor->getType() != 0
-           && (VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance()->registers(
-                   *functor)
-               || VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance()->registers(
-                   *functor));
+    return Prim::RegistratorType::anyRegisters<Prim::NumberedValueRegistratorType,
+                                               Prim::NamedValueRegistratorType>(*functor);
 }
 
 void CalculateValue::calculate()

@@ -122,19 +122,10 @@ std::vector<const T*> CalculationEnvironment::flattenEntities(
 
 bool CalculationEnvironment::isRegistrator(const VRK::Functor& functor)
 {
-    if (functor.getType() == 0)
-        return false;
-    const std::shared_ptr<Prim::RegistratorType> registrators[] = {
-        VRK::Singleton<Prim::NumberedValueRegistratorType>::getInstance(),
-        VRK::Singleton<Prim::NamedValueRegistratorType>::getInstance(),
-        VRK::Singleton<NumberedMapRegistratorType>::getInstance(),
-        VRK::Singleton<NamedMapRegistratorType>::getInstance(),
-        VRK::Singleton<NumberedLookupTableRegistratorType>::getInstance(),
-        VRK::Singleton<NamedLookupTableRegistratorType>::getInstance()};
-    for (const std::shared_ptr<Prim::RegistratorType>& type : registrators)
-        if (type->registers(functor))
-            return true;
-    return false;
+    return Prim::RegistratorType::anyRegisters<
+        Prim::NumberedValueRegistratorType, Prim::NamedValueRegistratorType,
+        NumberedMapRegistratorType, NamedMapRegistratorType, NumberedLookupTableRegistratorType,
+        NamedLookupTableRegistratorType>(functor);
 }
 
 } // namespace Maps

@@ -57,10 +57,8 @@ void CreateString::verify()
 bool CreateString::isCompatible(VRK::Functor* functor) const
 {
     assert(functor != 0 && "functor != 0");
-    return functor->getType() != 0
-           && (VRK::Singleton<NumberedValueRegistratorType>::getInstance()->registers(*functor)
-               || VRK::Singleton<NumberedStringRegistratorType>::getInstance()->registers(
-                   *functor));
+    return RegistratorType::anyRegisters<NumberedValueRegistratorType,
+                                         NumberedStringRegistratorType>(*functor);
 }
 
 void CreateString::runContainerImpl()

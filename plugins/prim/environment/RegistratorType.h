@@ -3,6 +3,7 @@
 
 #include "base/data/BaseType.h"
 #include "base/graph/Functor.h"
+#include "base/util/Singleton.h"
 
 #include <string>
 
@@ -18,6 +19,13 @@ public:
     // Whether `functor`, which has a type, is a registrator of this type. Types are told
     // apart by name, the way the catalogue knows them.
     bool registers(const VRK::Functor& functor) const;
+    // Whether `functor` has a type and one of RegistratorTypesT registers it.
+    template <class... RegistratorTypesT>
+    static bool anyRegisters(const VRK::Functor& functor)
+    {
+        return functor.getType() != 0
+               && (VRK::Singleton<RegistratorTypesT>::getInstance()->registers(functor) || ...);
+    }
 
 protected:
     explicit RegistratorType(const std::string& words);
