@@ -5,6 +5,7 @@
 #include "plugins/prim/carriers/DoubleFunctor.h"
 #include "plugins/prim/environment/NameValueFunctor.h"
 
+#include "base/data/BaseType.h"
 #include "base/error/Exception.h"
 #include "base/script/Script.h"
 #include "base/script/text/DefaultScriptReader.h"
@@ -18,6 +19,8 @@
 
 #include <fstream>
 #include <mutex>
+#include <string>
+#include <vector>
 
 extern "C" void registerMapsPlugin(VRK::Plugin& plugin);
 
@@ -67,6 +70,48 @@ protected:
 };
 
 } // namespace
+
+TEST_F(MapFunctors, RegistratorsDeclareTheirTypesAndPorts)
+{
+    struct Case {
+        const char* name;
+        const char* type;
+        const char* description;
+        std::vector<std::string> ports;
+    };
+    for (const Case& c : {
+             Case{"NumberMap",
+                  "NumberedMapRegistrator",
+                  "Identify a map by assigning a number to it.",
+                  {"map Map Any map.", "mapNumber PositiveInt Map number identifier."}},
+             Case{"NameMap",
+                  "NamedMapRegistrator",
+                  "Identify a map by assigning a name to it.",
+                  {"map Map Map.", "mapName Name Map name identifier."}},
+             Case{"NumberLookupTable",
+                  "NumberedLookupTableRegistrator",
+                  "Identify a table by assigning a number to it.",
+                  {"table LookupTable Any table.",
+                   "tableNumber PositiveInt Table number identifier."}},
+             Case{"NameLookupTable",
+                  "NamedLookupTableRegistrator",
+                  "Identify a table by assigning a name to it.",
+                  {"table LookupTable Table.", "tableName Name Table name identifier."}},
+         }) {
+        VRK::Script script;
+        VRK::Functor& functor = *script.createFunctor(c.name, true);
+        EXPECT_EQ(functor.getType()->getName(), c.type);
+        EXPECT_EQ(functor.getDescription(), c.description);
+        std::vector<std::string> ports;
+        for (const auto& port : functor.getInputPorts()) {
+            EXPECT_FALSE(port->isOptional()) << c.name;
+            ports.push_back(port->getName() + " " + port->getType()->getName() + " "
+                            + port->getDescription());
+        }
+        EXPECT_EQ(ports, c.ports);
+        EXPECT_TRUE(functor.getOutputPorts().empty()) << c.name;
+    }
+}
 
 TEST_F(MapFunctors, BannersShowTheNumberOrName)
 {
