@@ -5,12 +5,12 @@
 #include "plugins/prim/carriers/DoubleFunctor.h"
 #include "plugins/prim/environment/NameValueFunctor.h"
 
-#include "base/data/BaseType.h"
 #include "base/error/Exception.h"
 #include "base/script/Script.h"
 #include "base/script/text/DefaultScriptReader.h"
 #include "base/task/Task.h"
 #include "tests/support/PrimRegistration.h"
+#include "tests/support/RegistratorDeclaration.h"
 #include "tests/support/ScriptText.h"
 
 #include <boost/filesystem.hpp>
@@ -73,12 +73,7 @@ protected:
 
 TEST_F(MapFunctors, RegistratorsDeclareTheirTypesAndPorts)
 {
-    struct Case {
-        const char* name;
-        const char* type;
-        const char* description;
-        std::vector<std::string> ports;
-    };
+    using Case = VRK::Testing::RegistratorDeclaration;
     for (const Case& c : {
              Case{"NumberMap",
                   "NumberedMapRegistrator",
@@ -100,16 +95,7 @@ TEST_F(MapFunctors, RegistratorsDeclareTheirTypesAndPorts)
          }) {
         VRK::Script script;
         VRK::Functor& functor = *script.createFunctor(c.name, true);
-        EXPECT_EQ(functor.getType()->getName(), c.type);
-        EXPECT_EQ(functor.getDescription(), c.description);
-        std::vector<std::string> ports;
-        for (const auto& port : functor.getInputPorts()) {
-            EXPECT_FALSE(port->isOptional()) << c.name;
-            ports.push_back(port->getName() + " " + port->getType()->getName() + " "
-                            + port->getDescription());
-        }
-        EXPECT_EQ(ports, c.ports);
-        EXPECT_TRUE(functor.getOutputPorts().empty()) << c.name;
+        VRK::Testing::expectDeclared(functor, c);
     }
 }
 

@@ -13,6 +13,7 @@
 #include "plugins/prim/values/texts/StringEditor.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PrimRegistration.h"
+#include "tests/support/RegistratorDeclaration.h"
 #include "tests/support/ScriptText.h"
 
 #include <gtest/gtest.h>
@@ -95,12 +96,7 @@ protected:
 
 TEST_F(Registrators, DeclareTheirTypesPortsAndFlags)
 {
-    struct Case {
-        const char* name;
-        const char* type;
-        const char* description;
-        std::vector<std::string> ports;
-    };
+    using Case = VRK::Testing::RegistratorDeclaration;
     for (const Case& c : {
              Case{"NumberValue",
                   "NumberedValueRegistrator",
@@ -126,16 +122,7 @@ TEST_F(Registrators, DeclareTheirTypesPortsAndFlags)
          }) {
         VRK::Script script;
         VRK::Functor& functor = *script.createFunctor(c.name, true);
-        EXPECT_EQ(functor.getType()->getName(), c.type);
-        EXPECT_EQ(functor.getDescription(), c.description);
-        std::vector<std::string> ports;
-        for (const auto& port : functor.getInputPorts()) {
-            EXPECT_FALSE(port->isOptional()) << c.name;
-            ports.push_back(port->getName() + " " + port->getType()->getName() + " "
-                            + port->getDescription());
-        }
-        EXPECT_EQ(ports, c.ports);
-        EXPECT_TRUE(functor.getOutputPorts().empty());
+        VRK::Testing::expectDeclared(functor, c);
         const bool passive = std::string(c.name) == "NumberPath";
         EXPECT_EQ(functor.getFlag(VRK::FunctorFlags::PassiveRegistrator), passive) << c.name;
         EXPECT_EQ(dynamic_cast<VRK::HookFunctor*>(&functor) == nullptr, passive) << c.name;
