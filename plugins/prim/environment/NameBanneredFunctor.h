@@ -12,9 +12,6 @@ class NameBanneredFunctor : public KeyBanneredFunctor<VRK::Functor, &Registrator
 public:
     ~NameBanneredFunctor() override;
 
-    // The type of the key port.
-    static std::shared_ptr<VRK::BaseType> getKeyType();
-
 protected:
     using KeyBanneredFunctor::KeyBanneredFunctor;
 };
