@@ -91,6 +91,46 @@ void markNullsAsNaN(Tessaly::Raster& result)
     result.clearNoData();
 }
 
+// The inputs as rasters, when every map is held in memory.
+std::optional<Tessaly::ImageCalculationInputs>
+wholeInputsOf(const Tessaly::SourceCalculationInputs& inputs)
+{
+    Tessaly::ImageCalculationInputs wholes{{}, inputs.values, inputs.tables};
+    for (const Tessaly::RasterSource* image : inputs.images) {
+        if (image && !image->getWhole())
+            return std::nullopt;
+        wholes.images.push_back(image ? image->getWhole() : nullptr);
+    }
+    return wholes;
+}
+
+// Over maps in memory, a real result is made without NoData, so that its null cells are
+// written as NaN at once; over maps kept in files, it is calculated by strips and its
+// NoData cells made NaN afterwards.
+Tessaly::Raster resultOf(const Tessaly::ImageCalculator& calculator,
+                         const Tessaly::SourceCalculationInputs& inputs,
+                         Tessaly::CellType cellType, int threads,
+                         const std::function<void()>& checkpoint)
+{
+    const bool real = cellType != Tessaly::CellType::Int32;
+    const std::optional<Tessaly::ImageCalculationInputs> wholes = wholeInputsOf(inputs);
+    if (!wholes) {
+        Tessaly::Raster result =
+            Tessaly::StripCalculator(calculator, inputs, cellType, threads, checkpoint)
+                .calculateWhole();
+        if (real)
+            markNullsAsNaN(result);
+        return result;
+    }
+    const Tessaly::Raster* first = wholes->images.empty() ? nullptr : wholes->images[0];
+    const int lines = first ? first->getLineCount() : 0;
+    Tessaly::Raster result = calculator.makeResult(*wholes, cellType, 0, lines);
+    if (real)
+        result.clearNoData();
+    calculator.calculateLines(*wholes, 0, lines, result, threads, checkpoint);
+    return result;
+}
+
 } // namespace
 
 py::array FormulaCalculator::calculate(const std::string& formula, const py::args& images,
@@ -115,11 +155,7 @@ py::array FormulaCalculator::calculate(const std::string& formula, const py::arg
             [&] {
                 const std::function<void()> checkpoint = [&task] { task.checkCancellation(); };
                 const Tessaly::ImageCalculator calculator(*expression, checkpoint);
-                result.emplace(
-                    Tessaly::StripCalculator(calculator, flattened, cellType, threads, checkpoint)
-                        .calculateWhole());
-                if (!categorical)
-                    markNullsAsNaN(*result);
+                result.emplace(resultOf(calculator, flattened, cellType, threads, checkpoint));
             },
             [&task] { task.cancel(); }, none, [](const std::vector<LogQueue::Line>&) {});
     } catch (const VRK::Exception& error) {

@@ -44,25 +44,47 @@ py::dtype dtypeOf(Tessaly::CellType cellType)
     return py::dtype::of<double>();
 }
 
-template <class T>
-void copyCells(const py::array& array, Tessaly::Raster& raster)
+// Keeps a Python object alive while a raster borrows its cells; the last raster may let
+// go of it on any thread, which takes the interpreter's lock for that. At exit the
+// interpreter has freed everything already.
+std::shared_ptr<const void> keepAlive(const py::handle& object)
 {
+    return std::shared_ptr<const void>(object.inc_ref().ptr(), [](PyObject* kept) {
+        if (!Py_IsInitialized())
+            return;
+        py::gil_scoped_acquire locked;
+        Py_DECREF(kept);
+    });
+}
+
+// The cells of the array in place when they are C-contiguous and aligned cells of the
+// map's own type; else a copy.
+template <class T>
+Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid, Tessaly::CellType type)
+{
+    using Cells = py::array_t<T, py::array::c_style>;
+    if (Cells::check_(array) && (array.flags() & py::detail::npy_api::NPY_ARRAY_ALIGNED_))
+        return Tessaly::Raster::borrowing(grid, type, array.data(), keepAlive(array));
     auto cells = py::array_t<T, py::array::c_style | py::array::forcecast>::ensure(array);
     if (!cells)
         throw py::error_already_set();
+    Tessaly::Raster raster(grid, type);
     std::memcpy(raster.cells<T>(), cells.data(), sizeof(T) * size_t(cells.size()));
+    return raster;
 }
 
-void copyCells(const py::array& array, Tessaly::Raster& raster)
+Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid)
 {
-    switch (raster.getCellType()) {
+    const Tessaly::CellType type = cellTypeOf(array.dtype());
+    switch (type) {
     case Tessaly::CellType::Int32:
-        return copyCells<std::int32_t>(array, raster);
+        return cellsOf<std::int32_t>(array, grid, type);
     case Tessaly::CellType::Float32:
-        return copyCells<float>(array, raster);
+        return cellsOf<float>(array, grid, type);
     case Tessaly::CellType::Float64:
-        return copyCells<double>(array, raster);
+        break;
     }
+    return cellsOf<double>(array, grid, type);
 }
 
 Tessaly::Grid gridOf(const py::array& array, const py::object& geotransform,
@@ -132,8 +154,7 @@ MapAdapter::MapAdapter(Tessaly::Raster&& raster)
 MapAdapter MapAdapter::fromArray(const py::array& array, const py::object& nodata,
                                  const py::object& geotransform, const std::string& projection)
 {
-    Tessaly::Raster raster(gridOf(array, geotransform, projection), cellTypeOf(array.dtype()));
-    copyCells(array, raster);
+    Tessaly::Raster raster = cellsOf(array, gridOf(array, geotransform, projection));
     setNoData(raster, nodata);
     return MapAdapter(std::move(raster));
 }

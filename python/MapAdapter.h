@@ -10,10 +10,11 @@
 #include <string>
 
 // A map as Python sees it (`vrk.Map`): the only part of the module that knows how a
-// map's cells are kept, so that a change of that touches this class alone. Maps never
-// change once made; arrays are copied into a map, and the cells of a map held in memory
-// are lent to numpy read-only, without a copy (those of a map kept in a file are read
-// into the array).
+// map's cells are kept, so that a change of that touches this class alone. A map
+// borrows the cells of an array that are C-contiguous int32, float32 or float64, keeping
+// the array alive, and copies the others; it never writes them. The cells of a map held
+// in memory are lent to numpy read-only, without a copy (those of a map kept in a file
+// are read into the array).
 class MapAdapter {
 public:
     explicit MapAdapter(std::shared_ptr<const Maps::MapData> data);
@@ -22,7 +23,8 @@ public:
     // The cells of a 2-D array: Int32 cells for booleans and integers of up to 32 bits
     // (signed) or 16 bits (unsigned), Float32 for float32, Float64 for the rest of
     // the real and integer types. `nodata` marks null cells (NaN always does in
-    // floating cells); `geotransform` is 6 numbers; `projection` is WKT.
+    // floating cells); `geotransform` is 6 numbers; `projection` is WKT. Borrowed cells
+    // that the caller changes later change the map.
     static MapAdapter fromArray(const pybind11::array& array, const pybind11::object& nodata,
                                 const pybind11::object& geotransform,
                                 const std::string& projection);

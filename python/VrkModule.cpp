@@ -32,7 +32,8 @@ void defineMap(py::module_& module)
         .def_static("from_array", &MapAdapter::fromArray, py::arg("array"),
                     py::arg("nodata") = py::none(), py::arg("geotransform") = py::none(),
                     py::arg("projection") = std::string(),
-                    "A map of a copy of the cells of a 2-D array.")
+                    "A map of the cells of a 2-D array: shared with C-contiguous int32, float32 "
+                    "and float64 arrays, which it keeps alive, else copied.")
         .def("to_array", py::overload_cast<>(&MapAdapter::toArray, py::const_),
              "The cells, read-only, without a copy.")
         .def("save", &MapAdapter::save, py::arg("path"),

@@ -4,7 +4,6 @@
 #include "tessaly/images/ImageExpression.h"
 
 #include <algorithm>
-#include <cassert>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -86,7 +85,6 @@ bool FusedFormula::fits(const CalculationData& data, CellType resultType) const
 void FusedFormula::runLines(const CalculationData& data, int firstLine, int endLine,
                             Raster& result) const
 {
-    assert(result.hasNoData() && "a calculated raster has NoData");
     FusedShapes::Leaves leaves{};
     for (size_t k = 0; k < scalars_.size(); ++k)
         leaves.scalars[k] = data.scalars[size_t(scalars_[k])];
@@ -97,7 +95,8 @@ void FusedFormula::runLines(const CalculationData& data, int firstLine, int endL
                                : NoNoData;
     }
     const int columns = result.getColumnCount();
-    const float resultNoData = static_cast<float>(result.getNoData());
+    // A result without NoData keeps its null cells as NaN.
+    const float resultNoData = static_cast<float>(result.getNoDataValue());
     const bool stream =
         size_t(result.getLineCount()) * size_t(columns) * sizeof(float) >= StreamedBytes;
     for (int line = firstLine; line < endLine; ++line) {

@@ -95,7 +95,40 @@ Raster::Raster(const Grid& grid, CellType cellType, int firstLine, int endLine, 
            && "a strip of the grid's lines");
 }
 
+Raster::Raster(const Raster& other)
+    : Image(other), grid_(other.grid_), cellType_(other.cellType_), firstLine_(other.firstLine_),
+      endLine_(other.endLine_), hasNoData_(other.hasNoData_), noData_(other.noData_),
+      cells_(other.storage(), other.storage() + other.heldByteCount())
+{
+}
+
+Raster& Raster::operator=(const Raster& other)
+{
+    if (this != &other)
+        *this = Raster(other);
+    return *this;
+}
+
 Raster::~Raster() = default;
+
+Raster Raster::borrowing(const Grid& grid, CellType cellType, const void* cells,
+                         std::shared_ptr<const void> owner)
+{
+    Raster raster = borrowingForResult(grid, cellType, const_cast<void*>(cells), std::move(owner));
+    raster.writable_ = false;
+    return raster;
+}
+
+Raster Raster::borrowingForResult(const Grid& grid, CellType cellType, void* cells,
+                                  std::shared_ptr<const void> owner)
+{
+    assert(cells && owner && "borrowed cells and their owner");
+    Raster raster(grid, cellType, 0, 0, Uninitialised());
+    raster.endLine_ = grid.lines;
+    raster.borrowed_ = static_cast<std::uint8_t*>(cells);
+    raster.owner_ = std::move(owner);
+    return raster;
+}
 
 Raster Raster::stripOf(const Raster& like, int firstLine, int endLine)
 {
@@ -121,6 +154,19 @@ size_t Raster::getCellSize(CellType cellType)
     return 0;
 }
 
+size_t Raster::heldByteCount() const
+{
+    return size_t(endLine_ - firstLine_) * size_t(grid_.columns) * getCellSize(cellType_);
+}
+
+std::uint8_t* Raster::storage()
+{
+    assert(writable_ && "a borrowed raster is written only when made for a result");
+    return borrowed_ ? borrowed_ : cells_.data();
+}
+
+const std::uint8_t* Raster::storage() const { return borrowed_ ? borrowed_ : cells_.data(); }
+
 size_t Raster::getGridByteCount() const
 {
     return size_t(grid_.lines) * size_t(grid_.columns) * getCellSize(cellType_);
@@ -145,14 +191,14 @@ template <class T>
 T* Raster::cells()
 {
     assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
-    return reinterpret_cast<T*>(cells_.data());
+    return reinterpret_cast<T*>(storage());
 }
 
 template <class T>
 const T* Raster::cells() const
 {
     assert(cellType_ == CellTypeOf<T>::value && "cells() of the raster's own cell type");
-    return reinterpret_cast<const T*>(cells_.data());
+    return reinterpret_cast<const T*>(storage());
 }
 
 template std::int32_t* Raster::cells<std::int32_t>();

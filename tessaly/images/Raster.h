@@ -6,6 +6,7 @@
 #include "tessaly/images/Image.h"
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace Tessaly {
@@ -20,20 +21,30 @@ enum class CellType { Int32, Float32, Float64 };
 // A raster may hold only a strip of its grid's lines, [getFirstLine(), getEndLine()),
 // so that maps larger than memory are calculated strip by strip; it still answers for
 // the whole grid's size, and reading a line it does not hold is a programming error.
+//
+// A raster may borrow cells that it does not own (an array of another language), kept
+// alive by an owner handle while any raster refers to them. Such a raster is read-only
+// unless made for a result; a copy of it owns its cells.
 class Raster : public Image {
 public:
     // Every cell 0.
     Raster(const Grid& grid, CellType cellType);
     // The strip of lines [firstLine, endLine), every cell 0.
     Raster(const Grid& grid, CellType cellType, int firstLine, int endLine);
-    Raster(const Raster&) = default;
-    Raster& operator=(const Raster&) = default;
+    Raster(const Raster& other);
+    Raster& operator=(const Raster& other);
     Raster(Raster&&) = default;
     Raster& operator=(Raster&&) = default;
     ~Raster() override;
     // The strip [firstLine, endLine) of `like`'s grid, with its cell type and NoData, its
     // cells left as they come: for a strip whose every cell is written next.
     static Raster stripOf(const Raster& like, int firstLine, int endLine);
+    // The whole grid over `cells`, line by line, which `owner` keeps alive: read-only.
+    static Raster borrowing(const Grid& grid, CellType cellType, const void* cells,
+                            std::shared_ptr<const void> owner);
+    // The same, writable: for a result calculated straight into `cells`.
+    static Raster borrowingForResult(const Grid& grid, CellType cellType, void* cells,
+                                     std::shared_ptr<const void> owner);
 
     const Grid& getGrid() const { return grid_; }
     CellType getCellType() const { return cellType_; }
@@ -76,8 +87,8 @@ public:
     {
         return cells<T>() + heldOffset(line, 0);
     }
-    void* rawCells() { return cells_.data(); }
-    const void* rawCells() const { return cells_.data(); }
+    void* rawCells() { return storage(); }
+    const void* rawCells() const { return storage(); }
     static size_t getCellSize(CellType cellType);
     // The bytes of every cell of the grid, whatever the raster holds.
     size_t getGridByteCount() const;
@@ -96,6 +107,9 @@ private:
     Raster(const Grid& grid, CellType cellType, int firstLine, int endLine, Uninitialised);
 
     size_t heldOffset(int line, int column) const;
+    size_t heldByteCount() const;
+    std::uint8_t* storage();
+    const std::uint8_t* storage() const;
 
     Grid grid_;
     CellType cellType_;
@@ -104,6 +118,10 @@ private:
     bool hasNoData_ = false;
     double noData_ = 0;
     std::vector<std::uint8_t, CellAllocator<std::uint8_t>> cells_;
+    // Cells borrowed in place of cells_, if any, and what keeps them alive.
+    std::uint8_t* borrowed_ = nullptr;
+    bool writable_ = true;
+    std::shared_ptr<const void> owner_;
 };
 
 } // namespace Tessaly
