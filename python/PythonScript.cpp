@@ -1,6 +1,7 @@
 #include "python/PythonScript.h"
 
 #include "apps/host/DiagnosticPrinter.h"
+#include "apps/host/SizeParser.h"
 
 #include "base/log/LogFilterHigherTags.h"
 #include "base/log/LogTagInfo.h"
@@ -13,7 +14,6 @@
 #include "python/PythonErrors.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdint>
 #include <mutex>
 #include <optional>
@@ -22,28 +22,16 @@ namespace py = pybind11;
 
 namespace {
 
-// The memory budget as the command line takes it: bytes, or a number followed by K, M,
-// G or T (powers of 1024, an optional B after them); None keeps the budget in force.
+// The memory budget as the command line takes it: bytes, or a text such as "64M"; None
+// keeps the budget in force.
 std::optional<std::uint64_t> memoryOf(const py::object& memory)
 {
     if (memory.is_none())
         return std::nullopt;
     if (py::isinstance<py::int_>(memory) && memory.cast<long long>() >= 0)
         return memory.cast<std::uint64_t>();
-    const std::string text = py::isinstance<py::str>(memory) ? memory.cast<std::string>() : "";
-    std::size_t end = 0;
-    while (end < text.size() && std::isdigit(static_cast<unsigned char>(text[end])))
-        ++end;
-    std::string unit = text.substr(end);
-    if (!unit.empty() && std::toupper(static_cast<unsigned char>(unit.back())) == 'B')
-        unit.pop_back();
-    const std::string units = "KMGT";
-    const std::size_t power = unit.empty() ? 0 : units.find(char(std::toupper(unit[0]))) + 1;
-    const bool badUnit = unit.size() > 1 || (!unit.empty() && power == 0);
-    if (end == 0 || end > 15 || badUnit)
-        throw py::value_error("The memory \"" + py::str(memory).cast<std::string>()
-                              + "\" is neither a number of bytes nor one such as 64M or 1G.");
-    return std::stoull(text.substr(0, end)) << (10 * power);
+    // Refused as ValueError, the translation of std::invalid_argument.
+    return SizeParser::parse(py::str(memory).cast<std::string>());
 }
 
 // The value text of a Python value, as a script would give it.

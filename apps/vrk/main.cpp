@@ -3,6 +3,7 @@
 #include "apps/vrk/DescribeCommand.h"
 #include "apps/host/DiagnosticPrinter.h"
 #include "apps/host/HostSession.h"
+#include "apps/host/SizeParser.h"
 #include "apps/vrk/InterruptGuard.h"
 #include "apps/vrk/ListCommand.h"
 #include "apps/vrk/RunCommand.h"
@@ -20,6 +21,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -31,6 +33,21 @@ std::string checkLogLevel(const std::string& text)
                                            : "\"" + text + "\" is not a log level (.unconditional, "
                                                           ".error, .warning, .result, .info, "
                                                           ".info2, .debug, .debug2, .trace)";
+}
+
+// Sizes of memory as 64M or bytes, read as the Python module reads them.
+CLI::Validator memorySize()
+{
+    return CLI::Validator(
+        [](std::string& text) {
+            try {
+                text = std::to_string(SizeParser::parse(text));
+                return std::string();
+            } catch (const std::invalid_argument& refused) {
+                return std::string(refused.what());
+            }
+        },
+        "SIZE");
 }
 
 // A subcommand and what runs it once the host is set up; it returns the exit status.
@@ -91,7 +108,7 @@ int runCommandLine(int argc, char** argv)
     run->add_option("--memory", runOptions.memory,
                     "Memory that maps may hold, as 64M, 1G or bytes (default: half the "
                     "physical memory); larger maps go to temporary files")
-        ->transform(CLI::AsSizeValue(false));
+        ->transform(memorySize());
     run->add_option("--set", runOptions.assignments, "Set an input: alias.port=VALUE")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
@@ -110,7 +127,7 @@ int runCommandLine(int argc, char** argv)
     sweep->add_option("--memory", sweepOptions.memory,
                       "Memory budget of maps in each run (default: half the physical memory, "
                       "shared among the runs at a time)")
-        ->transform(CLI::AsSizeValue(false));
+        ->transform(memorySize());
     sweep->add_option("--out", sweepOptions.out, "Folder of the runs (default runs)");
     sweep->add_flag("--resume", sweepOptions.resume, "Skip the runs that succeeded before");
     commands.push_back({sweep, [&] {
