@@ -102,6 +102,40 @@ TEST(FusedFormulaTest, KernelsWriteOnlyTheirLineStreamedOrStored)
             }
 }
 
+// A result made without NoData keeps its null cells as NaN, fused or not: the cells of
+// the result with NoData, its NoData cells NaN.
+TEST(FusedFormulaTest, AResultWithoutNoDataWritesNullCellsAsNan)
+{
+    const TestMap a = TestMap::random(3, 300, 21);
+    const TestMap b = TestMap::random(3, 300, 22);
+    const Raster f1 = a.toRaster(CellType::Float32, -9999), f2 = b.toRaster(CellType::Float32, Null);
+    const Raster d1 = a.toRaster(CellType::Float64, -9999), d2 = b.toRaster(CellType::Float64, Null);
+    const auto formula = compiledFormula("if i1 > 0 then i1 * 2 + i2 else 0");
+    const ImageCalculator calculator(*formula);
+    const auto& names = formula->getDictionary();
+    for (const TestInputs& maps : {TestInputs{{{"i1", &f1}, {"i2", &f2}}, {}, {}},
+                                   TestInputs{{{"i1", &d1}, {"i2", &d2}}, {}, {}}}) {
+        const ImageCalculationInputs inputs = maps.forFormula(names);
+        const Raster withNoData = calculator.calculate(inputs, CellType::Float32, 2, {});
+        Raster withoutNoData = calculator.makeResult(inputs, CellType::Float32, 0, a.lines);
+        withoutNoData.clearNoData();
+        calculator.calculateLines(inputs, 0, a.lines, withoutNoData, 2, {});
+        size_t nulls = 0;
+        for (int line = 0; line < a.lines; ++line)
+            for (int column = 0; column < a.columns; ++column) {
+                const float cell = withoutNoData.lineCells<float>(line)[column];
+                const float expected = withNoData.lineCells<float>(line)[column];
+                if (expected == -9999.0f) {
+                    EXPECT_TRUE(std::isnan(cell));
+                    ++nulls;
+                } else {
+                    ASSERT_EQ(cell, expected);
+                }
+            }
+        EXPECT_GT(nulls, 0u);
+    }
+}
+
 TEST(FusedFormulaTest, OtherShapesAreLeftToTheBlockProgram)
 {
     for (const char* text : {"sqrt(i1) * 2", "i1 * i2 - i1", "if i1 > 0 then i1 / 2 else 0",

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
 
 namespace Tessaly {
 namespace {
@@ -58,6 +61,49 @@ TEST(RasterTest, FloatCellsWithoutNoDataKeepNanAndFloat32NoDataMatchesExactly)
     EXPECT_EQ(lowest.getValue(0, 1), static_cast<double>(0.1f));
     lowest.clearNoData();
     EXPECT_FALSE(std::isnan(lowest.getValue(0, 0)));
+}
+
+// A borrowed raster reads the cells where they lie, keeps their owner alive while any
+// raster refers to them, and a copy of it is a raster of its own.
+TEST(RasterTest, ABorrowedRasterReadsCellsInPlaceAndACopyOwnsItsOwn)
+{
+    auto cells = std::make_shared<std::vector<float>>(std::vector<float>{1, -9999, NAN, 4});
+    std::weak_ptr<std::vector<float>> alive = cells;
+    Raster copy(grid(1, 1), CellType::Int32);
+    {
+        Raster borrowed = Raster::borrowing(grid(2, 2), CellType::Float32, cells->data(), cells);
+        cells.reset();
+        borrowed.setNoData(-9999);
+        EXPECT_FALSE(alive.expired());
+        const Raster& readOnly = borrowed;
+        EXPECT_EQ(readOnly.rawCells(), alive.lock()->data());
+        double out[4];
+        borrowed.readCells(0, 0, 2, out);
+        borrowed.readCells(1, 0, 2, out + 2);
+        EXPECT_EQ(out[0], 1);
+        EXPECT_TRUE(std::isnan(out[1]) && std::isnan(out[2]));
+        EXPECT_EQ(out[3], 4);
+        copy = borrowed;
+        EXPECT_NE(copy.rawCells(), readOnly.rawCells());
+    }
+    EXPECT_TRUE(alive.expired()) << "a copy does not hold the borrowed cells";
+    copy.setValue(1, 1, 5);
+    EXPECT_EQ(copy.getValue(1, 1), 5);
+    EXPECT_TRUE(std::isnan(copy.getValue(0, 1))) << "the copy keeps the NoData";
+}
+
+TEST(RasterTest, ARasterForAResultWritesIntoTheBorrowedCells)
+{
+    auto cells = std::make_shared<std::vector<std::int32_t>>(3, 0);
+    Raster result =
+        Raster::borrowingForResult(grid(1, 3), CellType::Int32, cells->data(), cells);
+    result.setNoData(-1);
+    const double in[] = {2.5, NAN, -7};
+    result.writeCells(0, 0, 3, in);
+    EXPECT_EQ(*cells, (std::vector<std::int32_t>{3, -1, -7}));
+    Raster moved = std::move(result);
+    moved.setValue(0, 0, 8);
+    EXPECT_EQ((*cells)[0], 8);
 }
 
 // Large rasters reuse the memory of freed ones: a new one must still start at 0.
