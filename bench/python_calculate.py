@@ -4,8 +4,9 @@
 cells, in vrk (one thread, then every processor), numpy (one thread) and numexpr
 (one thread, then every processor; skipped when it is not importable). Prints one line
 per run, "<name><TAB><cells per second>", the best of five repetitions, then the
-ratios of vrk to the peers. vrk's figures include copying both arrays into maps and the
-result out: what a caller of vrk.calculate waits for.
+ratios of vrk to the peers. vrk's figures include all that a caller of vrk.calculate
+waits for: taking both arrays as maps (in place, as they are C-contiguous float32) and
+handing the result back as an array.
 
     PYTHONPATH=build/python /usr/bin/python3 bench/python_calculate.py
 """

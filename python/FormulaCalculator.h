@@ -13,9 +13,10 @@ public:
     // The formula reads `images` (arrays or vrk.Maps) as i1, i2 ...; `values` as $name
     // (str keys) and v1, v2 ... (int keys); `tables`, dicts of keys to values, as %name
     // and t1, t2 ...; `maps` (arrays or vrk.Maps) as #name.
-    // The result lies on the grid of the first map the formula names. Its cells are
-    // float32, null cells NaN; with `categorical`, int32, rounded halves away from zero,
-    // null cells the first map's NoData (-9999 without one). The work is spread over
+    // Arrays are read in place where MapAdapter borrows them. The result lies on the
+    // grid of the first map the formula names. Its cells are float32, null cells NaN;
+    // with `categorical`, int32, rounded halves away from zero, null cells the first
+    // map's NoData (-9999 without one). The work is spread over
     // `processors` threads (0: every hardware thread) without the interpreter's lock;
     // Ctrl-C stops it with KeyboardInterrupt. A formula that does not read raises
     // vrk.ScriptError at its line and column; one that cannot be evaluated over these

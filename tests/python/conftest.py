@@ -6,6 +6,7 @@ import pathlib
 import shutil
 import subprocess
 
+import numpy as np
 import pytest
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -38,3 +39,13 @@ def town(tmp_path):
     for name in ["model.vrk", "landuse.asc", "town.asc", "suitability.csv"]:
         shutil.copy(SOURCE / "examples" / "maps" / name, tmp_path / name)
     return tmp_path / "model.vrk"
+
+
+@pytest.fixture
+def arrays():
+    """Two float32 arrays of 300 x 257 cells in [-1, 1], a[5, 7] and b[9, 11] NaN."""
+    generator = np.random.default_rng(7)
+    a = generator.uniform(-1, 1, (300, 257)).astype(np.float32)
+    b = generator.uniform(-1, 1, (300, 257)).astype(np.float32)
+    a[5, 7] = b[9, 11] = np.nan
+    return a, b

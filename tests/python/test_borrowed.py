@@ -6,20 +6,10 @@ import gc
 import weakref
 
 import numpy as np
-import pytest
 
 import vrk
 
 FORMULA = "if i1 > 0 then i1 * 2 + i2 else 0"
-
-
-@pytest.fixture
-def arrays():
-    generator = np.random.default_rng(11)
-    a = generator.uniform(-1, 1, (130, 97)).astype(np.float32)
-    b = generator.uniform(-1, 1, (130, 97)).astype(np.float32)
-    a[3, 4] = b[7, 8] = np.nan
-    return a, b
 
 
 def test_c_contiguous_arrays_of_a_cell_type_are_shared_and_the_others_copied():
@@ -64,7 +54,7 @@ def test_borrowed_and_copied_inputs_give_the_same_results_and_stay_unchanged(arr
     copied = vrk.calculate(FORMULA, np.asfortranarray(a), b[:, ::1].astype(np.float64))
     with np.errstate(invalid="ignore"):
         expected = np.where(a > 0, a * 2 + b, 0).astype(np.float32)
-    expected[3, 4] = np.nan
+    expected[5, 7] = np.nan
     np.testing.assert_array_equal(borrowed, expected)
     np.testing.assert_array_equal(copied, expected)
     np.testing.assert_array_equal(a, kept[0])
@@ -79,7 +69,7 @@ def test_null_cells_are_nan_and_a_calculated_nodata_stays_a_number(arrays, tmp_p
     in_memory.save(str(tmp_path / "cells.tif"))
     from_file = vrk.load_map(str(tmp_path / "cells.tif"))
     doubled = cells * 2
-    doubled[3, 4] = np.nan
+    doubled[5, 7] = np.nan
     for map_ in [in_memory, from_file]:
         np.testing.assert_array_equal(vrk.calculate("i1 * 2", map_), doubled)
     # Over maps in memory, only null cells become NaN, not cells calculated to equal the
@@ -88,4 +78,4 @@ def test_null_cells_are_nan_and_a_calculated_nodata_stays_a_number(arrays, tmp_p
     np.testing.assert_array_equal(vrk.calculate("if i1 == 1 then -9999 else i1 * 2", in_memory),
                                   expected)
     categorical = vrk.calculate("i1 * 2", in_memory, categorical=True)
-    assert categorical.dtype == np.int32 and categorical[3, 4] == -9999
+    assert categorical.dtype == np.int32 and categorical[5, 7] == -9999

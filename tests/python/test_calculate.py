@@ -7,15 +7,6 @@ import pytest
 import vrk
 
 
-@pytest.fixture
-def arrays():
-    generator = np.random.default_rng(7)
-    a = generator.uniform(-1, 1, (300, 257)).astype(np.float32)
-    b = generator.uniform(-1, 1, (300, 257)).astype(np.float32)
-    a[5, 7] = b[9, 11] = np.nan
-    return a, b
-
-
 def test_a_formula_gives_what_numpy_gives_with_null_cells_as_nan(arrays):
     a, b = arrays
     result = vrk.calculate("if i1 > 0 then i1 * 2 + i2 else 0", a, b)
