@@ -114,18 +114,10 @@ Raster::~Raster() = default;
 Raster Raster::borrowing(const Grid& grid, CellType cellType, const void* cells,
                          std::shared_ptr<const void> owner)
 {
-    Raster raster = borrowingForResult(grid, cellType, const_cast<void*>(cells), std::move(owner));
-    raster.writable_ = false;
-    return raster;
-}
-
-Raster Raster::borrowingForResult(const Grid& grid, CellType cellType, void* cells,
-                                  std::shared_ptr<const void> owner)
-{
     assert(cells && owner && "borrowed cells and their owner");
     Raster raster(grid, cellType, 0, 0, Uninitialised());
     raster.endLine_ = grid.lines;
-    raster.borrowed_ = static_cast<std::uint8_t*>(cells);
+    raster.borrowed_ = static_cast<const std::uint8_t*>(cells);
     raster.owner_ = std::move(owner);
     return raster;
 }
@@ -161,8 +153,8 @@ size_t Raster::heldByteCount() const
 
 std::uint8_t* Raster::storage()
 {
-    assert(writable_ && "a borrowed raster is written only when made for a result");
-    return borrowed_ ? borrowed_ : cells_.data();
+    assert(!borrowed_ && "a raster of borrowed cells is read-only");
+    return cells_.data();
 }
 
 const std::uint8_t* Raster::storage() const { return borrowed_ ? borrowed_ : cells_.data(); }

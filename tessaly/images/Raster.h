@@ -23,8 +23,8 @@ enum class CellType { Int32, Float32, Float64 };
 // the whole grid's size, and reading a line it does not hold is a programming error.
 //
 // A raster may borrow cells that it does not own (an array of another language), kept
-// alive by an owner handle while any raster refers to them. Such a raster is read-only
-// unless made for a result; a copy of it owns its cells.
+// alive by an owner handle while any raster refers to them. Such a raster is read-only;
+// a copy of it owns its cells.
 class Raster : public Image {
 public:
     // Every cell 0.
@@ -42,9 +42,6 @@ public:
     // The whole grid over `cells`, line by line, which `owner` keeps alive: read-only.
     static Raster borrowing(const Grid& grid, CellType cellType, const void* cells,
                             std::shared_ptr<const void> owner);
-    // The same, writable: for a result calculated straight into `cells`.
-    static Raster borrowingForResult(const Grid& grid, CellType cellType, void* cells,
-                                     std::shared_ptr<const void> owner);
 
     const Grid& getGrid() const { return grid_; }
     CellType getCellType() const { return cellType_; }
@@ -119,8 +116,7 @@ private:
     double noData_ = 0;
     std::vector<std::uint8_t, CellAllocator<std::uint8_t>> cells_;
     // Cells borrowed in place of cells_, if any, and what keeps them alive.
-    std::uint8_t* borrowed_ = nullptr;
-    bool writable_ = true;
+    const std::uint8_t* borrowed_ = nullptr;
     std::shared_ptr<const void> owner_;
 };
 

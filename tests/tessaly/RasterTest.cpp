@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace Tessaly {
@@ -90,20 +89,6 @@ TEST(RasterTest, ABorrowedRasterReadsCellsInPlaceAndACopyOwnsItsOwn)
     copy.setValue(1, 1, 5);
     EXPECT_EQ(copy.getValue(1, 1), 5);
     EXPECT_TRUE(std::isnan(copy.getValue(0, 1))) << "the copy keeps the NoData";
-}
-
-TEST(RasterTest, ARasterForAResultWritesIntoTheBorrowedCells)
-{
-    auto cells = std::make_shared<std::vector<std::int32_t>>(3, 0);
-    Raster result =
-        Raster::borrowingForResult(grid(1, 3), CellType::Int32, cells->data(), cells);
-    result.setNoData(-1);
-    const double in[] = {2.5, NAN, -7};
-    result.writeCells(0, 0, 3, in);
-    EXPECT_EQ(*cells, (std::vector<std::int32_t>{3, -1, -7}));
-    Raster moved = std::move(result);
-    moved.setValue(0, 0, 8);
-    EXPECT_EQ((*cells)[0], 8);
 }
 
 // Large rasters reuse the memory of freed ones: a new one must still start at 0.
