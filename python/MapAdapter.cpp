@@ -57,13 +57,15 @@ std::shared_ptr<const void> keepAlive(const py::handle& object)
     });
 }
 
-// The cells of the array in place when they are C-contiguous and aligned cells of the
-// map's own type; else a copy.
+// With `borrow`, the cells of the array in place when they are C-contiguous and aligned
+// cells of the map's own type; else a copy.
 template <class T>
-Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid, Tessaly::CellType type)
+Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid, Tessaly::CellType type,
+                        bool borrow)
 {
     using Cells = py::array_t<T, py::array::c_style>;
-    if (Cells::check_(array) && (array.flags() & py::detail::npy_api::NPY_ARRAY_ALIGNED_))
+    if (borrow && Cells::check_(array)
+        && (array.flags() & py::detail::npy_api::NPY_ARRAY_ALIGNED_))
         return Tessaly::Raster::borrowing(grid, type, array.data(), keepAlive(array));
     auto cells = py::array_t<T, py::array::c_style | py::array::forcecast>::ensure(array);
     if (!cells)
@@ -73,18 +75,18 @@ Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid, Tessa
     return raster;
 }
 
-Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid)
+Tessaly::Raster cellsOf(const py::array& array, const Tessaly::Grid& grid, bool borrow)
 {
     const Tessaly::CellType type = cellTypeOf(array.dtype());
     switch (type) {
     case Tessaly::CellType::Int32:
-        return cellsOf<std::int32_t>(array, grid, type);
+        return cellsOf<std::int32_t>(array, grid, type, borrow);
     case Tessaly::CellType::Float32:
-        return cellsOf<float>(array, grid, type);
+        return cellsOf<float>(array, grid, type, borrow);
     case Tessaly::CellType::Float64:
         break;
     }
-    return cellsOf<double>(array, grid, type);
+    return cellsOf<double>(array, grid, type, borrow);
 }
 
 Tessaly::Grid gridOf(const py::array& array, const py::object& geotransform,
@@ -152,9 +154,10 @@ MapAdapter::MapAdapter(Tessaly::Raster&& raster)
 }
 
 MapAdapter MapAdapter::fromArray(const py::array& array, const py::object& nodata,
-                                 const py::object& geotransform, const std::string& projection)
+                                 const py::object& geotransform, const std::string& projection,
+                                 bool copy)
 {
-    Tessaly::Raster raster = cellsOf(array, gridOf(array, geotransform, projection));
+    Tessaly::Raster raster = cellsOf(array, gridOf(array, geotransform, projection), !copy);
     setNoData(raster, nodata);
     return MapAdapter(std::move(raster));
 }
@@ -163,7 +166,7 @@ MapAdapter MapAdapter::of(const py::handle& arrayOrMap)
 {
     if (py::isinstance<MapAdapter>(arrayOrMap))
         return arrayOrMap.cast<MapAdapter>();
-    return fromArray(py::array::ensure(arrayOrMap), py::none(), py::none(), std::string());
+    return fromArray(py::array::ensure(arrayOrMap), py::none(), py::none(), std::string(), false);
 }
 
 MapAdapter MapAdapter::load(const std::string& path)

@@ -23,12 +23,13 @@ public:
     // The cells of a 2-D array: Int32 cells for booleans and integers of up to 32 bits
     // (signed) or 16 bits (unsigned), Float32 for float32, Float64 for the rest of
     // the real and integer types. `nodata` marks null cells (NaN always does in
-    // floating cells); `geotransform` is 6 numbers; `projection` is WKT. Borrowed cells
-    // that the caller changes later change the map.
+    // floating cells); `geotransform` is 6 numbers; `projection` is WKT. Without `copy`
+    // the cells are borrowed where their layout allows, and the caller must not change
+    // them while the map lives, since a map never changes.
     static MapAdapter fromArray(const pybind11::array& array, const pybind11::object& nodata,
                                 const pybind11::object& geotransform,
-                                const std::string& projection);
-    // A numpy array or a map, as a map.
+                                const std::string& projection, bool copy);
+    // A numpy array or a map, as a map; the array's cells borrowed where they can be.
     static MapAdapter of(const pybind11::handle& arrayOrMap);
     static MapAdapter load(const std::string& path);
     void save(const std::string& path) const;

@@ -95,10 +95,24 @@ PythonScript::PythonScript(const std::string& file, const py::dict& inputs)
     }
     for (const auto& input : inputs)
         set(py::str(input.first), py::reinterpret_borrow<py::object>(input.second));
+    verify(true);
+}
+
+void PythonScript::verify(bool deferringInputs)
+{
+    if (verified_)
+        return;
     try {
         session_->verify();
+        verified_ = true;
     } catch (const HostError& error) {
-        raise("ScriptError", error);
+        const std::string& message = error.getMessage();
+        const std::string unset = " is required but neither set nor bound.";
+        const bool inputLeft = message.size() >= unset.size()
+                               && message.compare(message.size() - unset.size(), unset.size(),
+                                                  unset) == 0;
+        if (!deferringInputs || !inputLeft)
+            raise("ScriptError", error);
     }
 }
 
@@ -119,6 +133,7 @@ void PythonScript::run(const std::string& scheduler, unsigned int processors,
                        const std::string& logLevel, const py::object& memory,
                        const py::object& log)
 {
+    verify(false);
     const VRK::LogTag level = logLevelOf(logLevel);
     const std::vector<std::string> schedulers = ScriptSession::getSchedulerChoices();
     if (std::find(schedulers.begin(), schedulers.end(), scheduler) == schedulers.end())

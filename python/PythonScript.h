@@ -14,7 +14,8 @@
 class PythonScript {
 public:
     // Reads the script, applies `inputs` ("alias.port" to a value, as `set` takes it),
-    // then verifies it.
+    // then verifies it. Required inputs left without a value are asked for at the first
+    // run instead, so that they may be set in between.
     PythonScript(const std::string& file, const pybind11::dict& inputs);
 
     // A map is bound to the input from now on, in place of its value or the output it
@@ -37,9 +38,13 @@ public:
     const std::string& getFile() const { return session_->getFile(); }
 
 private:
+    // Verifies the script once; with `deferringInputs`, a script whose first fault is a
+    // required input without a value stays to be verified at the run.
+    void verify(bool deferringInputs);
     [[noreturn]] void raise(const char* kind, const HostError& error) const;
 
     std::unique_ptr<ScriptSession> session_;
+    bool verified_ = false;
 };
 
 #endif

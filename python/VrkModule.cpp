@@ -31,9 +31,10 @@ void defineMap(py::module_& module)
     py::class_<MapAdapter>(module, "Map", "A raster map: its cells, grid and NoData value.")
         .def_static("from_array", &MapAdapter::fromArray, py::arg("array"),
                     py::arg("nodata") = py::none(), py::arg("geotransform") = py::none(),
-                    py::arg("projection") = std::string(),
-                    "A map of the cells of a 2-D array: shared with C-contiguous int32, float32 "
-                    "and float64 arrays, which it keeps alive, else copied.")
+                    py::arg("projection") = std::string(), py::arg("copy") = true,
+                    "A map of the cells of a 2-D array, copied; with copy=False the cells of a "
+                    "C-contiguous int32, float32 or float64 array are shared, and the array "
+                    "kept alive, and must not change while the map lives.")
         .def("to_array", py::overload_cast<>(&MapAdapter::toArray, py::const_),
              "The cells, read-only, without a copy.")
         .def("save", &MapAdapter::save, py::arg("path"),
@@ -43,7 +44,15 @@ void defineMap(py::module_& module)
         .def_property_readonly("geotransform", &MapAdapter::getGeoTransform)
         .def_property_readonly("projection", &MapAdapter::getProjection)
         .def_property_readonly("nodata", &MapAdapter::getNoData)
-        .def_property_readonly("dtype", &MapAdapter::getCellType);
+        .def_property_readonly("dtype", &MapAdapter::getCellType)
+        .def("__repr__", [](const MapAdapter& map) {
+            const py::object nodata = map.getNoData();
+            return "<vrk.Map of " + std::to_string(map.getLines()) + " x "
+                   + std::to_string(map.getColumns()) + " " + map.getCellType() + " cells, "
+                   + (nodata.is_none() ? std::string("no NoData")
+                                       : "NoData " + std::string(py::repr(nodata)))
+                   + ">";
+        });
     module.def("load_map", &MapAdapter::load, py::arg("path"),
                "Reads the first band of a raster file of any format the raster library reads.");
 }

@@ -1,6 +1,7 @@
 """Arrays whose cells a map can use in place (C-contiguous int32, float32, float64) are
-borrowed, not copied, by vrk.Map.from_array and vrk.calculate; the others are copied.
-Either way the cells and results are the same."""
+borrowed, not copied, by vrk.calculate and by vrk.Map.from_array when told copy=False;
+the others are copied, as from_array's arrays are by default. Either way the cells and
+results are the same."""
 
 import gc
 import weakref
@@ -16,16 +17,20 @@ def test_c_contiguous_arrays_of_a_cell_type_are_shared_and_the_others_copied():
     cells = np.arange(-20, 40, dtype=np.int64).reshape(6, 10)
     for kind in [np.int32, np.float32, np.float64]:
         array = cells.astype(kind)
-        lent = vrk.Map.from_array(array).to_array()
+        lent = vrk.Map.from_array(array, copy=False).to_array()
         assert np.shares_memory(lent, array) and not lent.flags.writeable, kind
         assert lent.dtype == array.dtype and (lent == array).all()
+        copied = vrk.Map.from_array(array).to_array()
+        assert not np.shares_memory(copied, array) and (copied == array).all()
+        array[0, 0] = 7
+        assert copied[0, 0] == -20 and lent[0, 0] == 7
     big_endian = cells.astype(">f4")
     unaligned = np.frombuffer(b"\0" + cells.astype(np.float32).tobytes(), np.float32,
                               offset=1).reshape(6, 10)
     assert not unaligned.flags.aligned
     for copied in [cells.astype(np.float32)[:, ::2], np.asfortranarray(cells.astype(np.float32)),
                    cells.astype(np.int16), cells, big_endian, unaligned]:
-        lent = vrk.Map.from_array(copied).to_array()
+        lent = vrk.Map.from_array(copied, copy=False).to_array()
         assert not np.shares_memory(lent, copied)
         assert (lent == copied).all()
 
@@ -34,7 +39,7 @@ def test_a_borrowed_array_lives_as_long_as_its_map_and_no_longer():
     array = np.linspace(0, 1, 5000, dtype=np.float32).reshape(50, 100)
     expected = array.copy()
     alive = weakref.ref(array)
-    map_ = vrk.Map.from_array(array, nodata=0)
+    map_ = vrk.Map.from_array(array, nodata=0, copy=False)
     del array
     gc.collect()
     assert alive() is not None

@@ -75,13 +75,19 @@ def test_maps_saved_and_loaded_keep_cells_nodata_and_grid(tmp_path, name):
 
 def test_a_map_bound_to_an_input_feeds_the_run(models):
     array = np.array([[1, 2, 3], [4, 5, np.nan]], dtype=np.float32)
+    # An input left to the caller is asked for at the run, so that it may be set first.
+    unset = vrk.Script(str(models / "double-image.vrk"))
     with pytest.raises(vrk.ScriptError, match="\"image\" .* neither set nor bound"):
-        vrk.Script(str(models / "double-image.vrk"))
+        unset.run()
+    unset.set("calc.image", vrk.Map.from_array(array))
+    unset.run()
+    np.testing.assert_array_equal(unset.output("calc.result").to_array()[0], [3, 5, 7])
     script = vrk.Script(str(models / "double-image.vrk"),
                         inputs={"calc.image": vrk.Map.from_array(array)})
     script.run()
     result = script.output("calc.result")
     assert isinstance(result, vrk.Map)
+    assert repr(result) == "<vrk.Map of 2 x 3 float32 cells, NoData %r>" % result.nodata
     doubled = result.to_array()
     assert (doubled[:, :2] == array[:, :2] * 2 + 1).all()
     assert doubled[1, 2] == result.nodata
