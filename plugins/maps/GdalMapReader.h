@@ -1,7 +1,6 @@
 #ifndef VRK_PLUGINS_MAPS_GDALMAPREADER_H
 #define VRK_PLUGINS_MAPS_GDALMAPREADER_H
 
-#include "tessaly/images/Raster.h"
 #include "tessaly/raster/RasterSource.h"
 
 #include <boost/filesystem/path.hpp>
@@ -17,8 +16,6 @@ class GdalMapReader {
 public:
     // The map opened, its cells read when they are asked for.
     static std::shared_ptr<const Tessaly::RasterSource> open(const boost::filesystem::path& file);
-    // Every cell read at once.
-    static std::shared_ptr<const Tessaly::Raster> read(const boost::filesystem::path& file);
 };
 
 } // namespace Maps

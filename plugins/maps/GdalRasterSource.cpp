@@ -1,5 +1,6 @@
 #include "plugins/maps/GdalRasterSource.h"
 
+#include "base/task/ProcessorManager.h"
 #include "base/task/Task.h"
 #include "plugins/maps/AsciiGridCellChecker.h"
 #include "plugins/maps/GdalUtils.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace Maps {
 
@@ -17,6 +19,9 @@ namespace {
 
 // Lines read at once: a cancelled run stops between two such slices.
 constexpr int SliceLines = 256;
+
+// Handles kept at most: beyond a few, readers of one map gain nothing more.
+constexpr int MostHandles = 8;
 
 Tessaly::CellType cellTypeOf(GDALDataType fileType, const boost::filesystem::path& file)
 {
@@ -51,18 +56,20 @@ bool isAsciiGrid(GDALDataset& dataset)
     return driver && std::string(driver->GetDescription()) == "AAIGrid";
 }
 
-std::unique_ptr<GDALDataset> openDataset(const boost::filesystem::path& file)
+// A GeoTIFF's tiles in one read are decoded on `processors` threads.
+std::unique_ptr<GDALDataset> openDataset(const boost::filesystem::path& file, int processors)
 {
     GdalUtils::registerFormats();
     CPLErrorReset();
+    const std::string threads = std::to_string(processors);
+    CPLSetThreadLocalConfigOption("GDAL_NUM_THREADS", threads.c_str());
     std::unique_ptr<GDALDataset> dataset(
         static_cast<GDALDataset*>(GDALOpen(file.string().c_str(), GA_ReadOnly)));
+    CPLSetThreadLocalConfigOption("GDAL_NUM_THREADS", nullptr);
     if (!dataset)
         GdalUtils::fail(file, "read as a map");
     if (dataset->GetRasterCount() < 1)
         GdalUtils::fail(file, "read as a map, since it holds no band of cells");
-    if (isAsciiGrid(*dataset))
-        AsciiGridCellChecker::check(file);
     return dataset;
 }
 
@@ -77,10 +84,25 @@ Tessaly::Raster headerOf(GDALDataset& dataset, const boost::filesystem::path& fi
     return header;
 }
 
+// Every handle is opened at once: the name may be removed, or given to another file,
+// later. One for each processor in force, so that as many threads read at once.
+std::vector<std::unique_ptr<GDALDataset>> openHandles(const boost::filesystem::path& file)
+{
+    const int processors =
+        std::max(1, int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount()));
+    std::vector<std::unique_ptr<GDALDataset>> handles;
+    handles.push_back(openDataset(file, processors));
+    if (isAsciiGrid(*handles.front()))
+        AsciiGridCellChecker::check(file);
+    while (int(handles.size()) < std::min(processors, MostHandles))
+        handles.push_back(openDataset(file, processors));
+    return handles;
+}
+
 } // namespace
 
 GdalRasterSource::GdalRasterSource(const boost::filesystem::path& file, bool temporary)
-    : file_(file), dataset_(openDataset(file)), header_(headerOf(*dataset_, file))
+    : file_(file), idle_(openHandles(file)), header_(headerOf(*idle_.front(), file))
 {
     boost::system::error_code ignored;
     if (temporary)
@@ -96,8 +118,8 @@ Tessaly::Raster GdalRasterSource::readLines(int firstLine, int endLine) const
     const int columns = header_.getColumnCount();
     const size_t lineBytes = size_t(columns) * Tessaly::Raster::getCellSize(header_.getCellType());
     auto* cells = static_cast<unsigned char*>(strip.rawCells());
-    std::lock_guard<std::mutex> lock(mutex_);
-    GDALRasterBand& band = *dataset_->GetRasterBand(1);
+    const Handle handle(*this);
+    GDALRasterBand& band = *handle.dataset->GetRasterBand(1);
     for (int line = firstLine; line < endLine; line += SliceLines) {
         if (task)
             task->checkCancellation();
@@ -110,6 +132,23 @@ Tessaly::Raster GdalRasterSource::readLines(int firstLine, int endLine) const
             GdalUtils::fail(file_, "read");
     }
     return strip;
+}
+
+GdalRasterSource::Handle::Handle(const GdalRasterSource& source) : source_(source)
+{
+    std::unique_lock<std::mutex> lock(source.mutex_);
+    source.returned_.wait(lock, [&source] { return !source.idle_.empty(); });
+    dataset = std::move(source.idle_.back());
+    source.idle_.pop_back();
+}
+
+GdalRasterSource::Handle::~Handle()
+{
+    {
+        std::lock_guard<std::mutex> lock(source_.mutex_);
+        source_.idle_.push_back(std::move(dataset));
+    }
+    source_.returned_.notify_one();
 }
 
 } // namespace Maps

@@ -5,8 +5,10 @@
 
 #include <boost/filesystem/path.hpp>
 
+#include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 class GDALDataset;
 
@@ -16,7 +18,8 @@ namespace Maps {
 // as calculations and writers ask for them, through the raster library's block cache.
 // Narrow integer cells are read as Int32, unsigned 32-bit and 64-bit integers as
 // Float64, Float32 as Float32, other reals as Float64. The file stays open with the
-// source, so that a map written over it later does not change what it reads.
+// source, so that a map written over it later does not change what it reads. Several
+// threads read at once, each through its own handle on the file.
 class GdalRasterSource : public Tessaly::RasterSource {
 public:
     // Fails with an UnableToAccessFileException naming the file when it cannot be read
@@ -31,11 +34,24 @@ public:
     Tessaly::Raster readLines(int firstLine, int endLine) const override;
 
 private:
+    // A handle taken from the idle ones for one read, waiting for one when all are in
+    // use, and given back.
+    struct Handle {
+        explicit Handle(const GdalRasterSource& source);
+        ~Handle();
+        Handle(const Handle&) = delete;
+        Handle& operator=(const Handle&) = delete;
+
+        const GdalRasterSource& source_;
+        std::unique_ptr<GDALDataset> dataset;
+    };
+
     boost::filesystem::path file_;
-    std::unique_ptr<GDALDataset> dataset_;
-    Tessaly::Raster header_;
     // The library reads one dataset on one thread at a time.
     mutable std::mutex mutex_;
+    mutable std::condition_variable returned_;
+    mutable std::vector<std::unique_ptr<GDALDataset>> idle_;
+    Tessaly::Raster header_;
 };
 
 } // namespace Maps

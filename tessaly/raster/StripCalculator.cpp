@@ -1,6 +1,7 @@
 #include "tessaly/raster/StripCalculator.h"
 
 #include <algorithm>
+#include <future>
 #include <map>
 
 namespace Tessaly {
@@ -58,7 +59,7 @@ void StripCalculator::calculateStrips(const Sink& sink) const
     });
 }
 
-void StripCalculator::forEachStrip(const Body& body) const
+std::vector<StripCalculator::Strip> StripCalculator::planStrips() const
 {
     const Raster header = makeHeader();
     std::vector<const Raster*> headers;
@@ -71,24 +72,44 @@ void StripCalculator::forEachStrip(const Body& body) const
         std::max(1L, stripCells_ / (long(tileLines) * std::max(1, header.getColumnCount())));
     const int stripLines =
         reach.whole ? std::max(1, lines) : int(std::min<long>(lines, tiles * tileLines));
+    std::vector<Strip> strips;
     for (int firstLine = 0; firstLine < lines; firstLine += stripLines) {
         const int endLine = std::min(lines, firstLine + stripLines);
-        const int top = std::max(0, firstLine - reach.above);
-        const int bottom = int(std::min<long>(lines, long(endLine) + reach.below));
-        // A map named twice (i1 and #image alike) is read once per strip.
+        strips.push_back({firstLine, endLine, std::max(0, firstLine - reach.above),
+                          int(std::min<long>(lines, long(endLine) + reach.below))});
+    }
+    return strips;
+}
+
+// A map named twice (i1 and #image alike) is read once per strip. With more than one
+// processor, the maps are read at once on threads of their own.
+StripCalculator::Reads StripCalculator::startReading(const Strip& strip) const
+{
+    const std::launch policy = processors_ > 1 ? std::launch::async : std::launch::deferred;
+    Reads reads;
+    for (const RasterSource* image : inputs_.images)
+        if (image && !image->getWhole() && !reads.count(image))
+            reads.emplace(image, std::async(policy, [image, strip] {
+                              return image->readLines(strip.top, strip.bottom);
+                          }));
+    return reads;
+}
+
+// The next strip's maps are read while this one is calculated.
+void StripCalculator::forEachStrip(const Body& body) const
+{
+    const std::vector<Strip> plan = planStrips();
+    Reads pending = plan.empty() ? Reads() : startReading(plan.front());
+    for (std::size_t n = 0; n < plan.size(); ++n) {
         std::map<const RasterSource*, Raster> read;
+        for (auto& reading : pending)
+            read.emplace(reading.first, reading.second.get());
+        pending = n + 1 < plan.size() ? startReading(plan[n + 1]) : Reads();
         std::vector<const Raster*> strips;
-        for (const RasterSource* image : inputs_.images) {
-            if (!image || image->getWhole()) {
-                strips.push_back(image ? image->getWhole() : nullptr);
-                continue;
-            }
-            auto found = read.find(image);
-            if (found == read.end())
-                found = read.emplace(image, image->readLines(top, bottom)).first;
-            strips.push_back(&found->second);
-        }
-        body(firstLine, endLine, withImages(strips));
+        for (const RasterSource* image : inputs_.images)
+            strips.push_back(!image || image->getWhole() ? (image ? image->getWhole() : nullptr)
+                                                         : &read.at(image));
+        body(plan[n].firstLine, plan[n].endLine, withImages(strips));
     }
 }
 

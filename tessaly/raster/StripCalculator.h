@@ -5,6 +5,8 @@
 #include "tessaly/raster/RasterSource.h"
 
 #include <functional>
+#include <future>
+#include <map>
 #include <vector>
 
 namespace Tessaly {
@@ -43,8 +45,19 @@ public:
 
 private:
     using Body = std::function<void(int firstLine, int endLine, const ImageCalculationInputs&)>;
+    // The lines [firstLine, endLine) of the result, read from the lines [top, bottom).
+    struct Strip {
+        int firstLine;
+        int endLine;
+        int top;
+        int bottom;
+    };
+    using Reads = std::map<const RasterSource*, std::future<Raster>>;
+
     // Reads each strip's inputs and runs `body` on them.
     void forEachStrip(const Body& body) const;
+    std::vector<Strip> planStrips() const;
+    Reads startReading(const Strip& strip) const;
     ImageCalculationInputs withImages(std::vector<const Raster*> images) const;
     bool allWhole() const;
 
