@@ -19,6 +19,7 @@
 #include <exception>
 #include <functional>
 #include <iostream>
+#include <malloc.h>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -155,6 +156,18 @@ int runCommandLine(int argc, char** argv)
     return 2;
 }
 
+// Maps are read and calculated by strips of a few MiB on several threads at once.
+// - A few allocator arenas rather than one per thread: each reserves 64 MiB of address
+//   space, which a process under an address-space limit needs for its maps.
+// - Strips freed stay with the allocator for the next ones, rather than going back to
+//   the system and being faulted in afresh; whole maps are still given back.
+void tuneAllocator()
+{
+    mallopt(M_ARENA_MAX, 4);
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);
+    mallopt(M_TRIM_THRESHOLD, 64 << 20);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -162,6 +175,7 @@ int main(int argc, char** argv)
     // A write beyond the size limit on files then fails as an error of its own, which
     // removes its temporary file, instead of ending the process.
     std::signal(SIGXFSZ, SIG_IGN);
+    tuneAllocator();
     const InterruptGuard interrupt;
     try {
         return runCommandLine(argc, argv);

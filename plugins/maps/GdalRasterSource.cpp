@@ -56,16 +56,14 @@ bool isAsciiGrid(GDALDataset& dataset)
     return driver && std::string(driver->GetDescription()) == "AAIGrid";
 }
 
-// A GeoTIFF's tiles in one read are decoded on `processors` threads.
-std::unique_ptr<GDALDataset> openDataset(const boost::filesystem::path& file, int processors)
+// The library's own threads that decode a GeoTIFF are not used: memory that runs out
+// on one of them ends the process, where on the readers' threads it is an error.
+std::unique_ptr<GDALDataset> openDataset(const boost::filesystem::path& file)
 {
     GdalUtils::registerFormats();
     CPLErrorReset();
-    const std::string threads = std::to_string(processors);
-    CPLSetThreadLocalConfigOption("GDAL_NUM_THREADS", threads.c_str());
     std::unique_ptr<GDALDataset> dataset(
         static_cast<GDALDataset*>(GDALOpen(file.string().c_str(), GA_ReadOnly)));
-    CPLSetThreadLocalConfigOption("GDAL_NUM_THREADS", nullptr);
     if (!dataset)
         GdalUtils::fail(file, "read as a map");
     if (dataset->GetRasterCount() < 1)
@@ -91,11 +89,11 @@ std::vector<std::unique_ptr<GDALDataset>> openHandles(const boost::filesystem::p
     const int processors =
         std::max(1, int(VRK::ProcessorManager::Instance().getEffectiveProcessorCount()));
     std::vector<std::unique_ptr<GDALDataset>> handles;
-    handles.push_back(openDataset(file, processors));
+    handles.push_back(openDataset(file));
     if (isAsciiGrid(*handles.front()))
         AsciiGridCellChecker::check(file);
     while (int(handles.size()) < std::min(processors, MostHandles))
-        handles.push_back(openDataset(file, processors));
+        handles.push_back(openDataset(file));
     return handles;
 }
 

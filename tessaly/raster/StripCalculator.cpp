@@ -1,6 +1,8 @@
 #include "tessaly/raster/StripCalculator.h"
 
 #include <algorithm>
+#include <deque>
+#include <system_error>
 #include <future>
 #include <map>
 
@@ -82,34 +84,50 @@ std::vector<StripCalculator::Strip> StripCalculator::planStrips() const
 }
 
 // A map named twice (i1 and #image alike) is read once per strip. With more than one
-// processor, the maps are read at once on threads of their own.
+// processor, each map is read on a thread of its own; without a thread to spare, where
+// it is asked for.
 StripCalculator::Reads StripCalculator::startReading(const Strip& strip) const
 {
-    const std::launch policy = processors_ > 1 ? std::launch::async : std::launch::deferred;
     Reads reads;
-    for (const RasterSource* image : inputs_.images)
-        if (image && !image->getWhole() && !reads.count(image))
-            reads.emplace(image, std::async(policy, [image, strip] {
-                              return image->readLines(strip.top, strip.bottom);
-                          }));
+    for (const RasterSource* image : inputs_.images) {
+        if (!image || image->getWhole() || reads.count(image))
+            continue;
+        const auto read = [image, strip] { return image->readLines(strip.top, strip.bottom); };
+        try {
+            reads.emplace(image, std::async(processors_ > 1 ? std::launch::async
+                                                            : std::launch::deferred,
+                                            read));
+        } catch (const std::system_error&) {
+            reads.emplace(image, std::async(std::launch::deferred, read));
+        }
+    }
     return reads;
 }
 
-// The next strip's maps are read while this one is calculated.
+// The strips ahead, as many as there are processors, are read while this one is
+// calculated, so that a single map is read on every processor too.
 void StripCalculator::forEachStrip(const Body& body) const
 {
     const std::vector<Strip> plan = planStrips();
-    Reads pending = plan.empty() ? Reads() : startReading(plan.front());
-    for (std::size_t n = 0; n < plan.size(); ++n) {
+    std::deque<Reads> pending;
+    std::size_t next = 0;
+    const auto readAhead = [&] {
+        while (next < plan.size() && int(pending.size()) < std::max(1, processors_))
+            pending.push_back(startReading(plan[next++]));
+    };
+    for (const Strip& strip : plan) {
+        readAhead();
         std::map<const RasterSource*, Raster> read;
-        for (auto& reading : pending)
+        for (auto& reading : pending.front())
             read.emplace(reading.first, reading.second.get());
-        pending = n + 1 < plan.size() ? startReading(plan[n + 1]) : Reads();
+        pending.pop_front();
+        readAhead();
         std::vector<const Raster*> strips;
-        for (const RasterSource* image : inputs_.images)
-            strips.push_back(!image || image->getWhole() ? (image ? image->getWhole() : nullptr)
-                                                         : &read.at(image));
-        body(plan[n].firstLine, plan[n].endLine, withImages(strips));
+        for (const RasterSource* image : inputs_.images) {
+            const Raster* whole = image ? image->getWhole() : nullptr;
+            strips.push_back(!image || whole ? whole : &read.at(image));
+        }
+        body(strip.firstLine, strip.endLine, withImages(strips));
     }
 }
 

@@ -12,7 +12,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <fstream>
+#include <random>
 #include <set>
 
 namespace {
@@ -173,6 +175,43 @@ TEST_F(GdalMapTest, WrittenMapsReadBackWithGridAndNoData)
     // Nothing but the maps and the grid's projection: no temporary file stays.
     EXPECT_EQ(files(),
               (std::set<std::string>{"in.tif", "out.tif", "out.tiff", "out.asc", "out.prj"}));
+}
+
+// GeoTIFFs are written with differences along the line, which must give back every
+// bit of every cell type: extremes, NoData, NaN and random bits across a tile's edge.
+TEST_F(GdalMapTest, GeoTiffKeepsEveryBitOfEveryCellType)
+{
+    Tessaly::Grid grid;
+    grid.lines = 5;
+    grid.columns = 300;
+    std::mt19937 random(23);
+    for (Tessaly::CellType type :
+         {Tessaly::CellType::Int32, Tessaly::CellType::Float32, Tessaly::CellType::Float64}) {
+        SCOPED_TRACE(int(type));
+        Tessaly::Raster raster(grid, type);
+        raster.setNoData(-9999);
+        auto* bytes = static_cast<unsigned char*>(raster.rawCells());
+        const size_t size = raster.getGridByteCount();
+        for (size_t i = 0; i < size; ++i)
+            bytes[i] = static_cast<unsigned char>(random());
+        raster.setValue(0, 0, -9999);
+        raster.setValue(1, 1, 2147483647);
+        raster.setValue(1, 2, -2147483647 - 1.0);
+        raster.setValue(4, 299, 0);
+        if (type != Tessaly::CellType::Int32)
+            raster.setValue(2, 3, NAN);
+        const Tessaly::MemoryRasterSource source(std::make_shared<const Tessaly::Raster>(raster));
+        Maps::GdalMapWriter::write(source, file("bits.tif"), 2);
+        const auto back = readWhole(file("bits.tif"));
+        ASSERT_EQ(back->getCellType(), type);
+        EXPECT_EQ(back->getNoData(), -9999);
+        EXPECT_EQ(std::memcmp(back->rawCells(), raster.rawCells(), size), 0);
+        GDALDataset* tiff =
+            static_cast<GDALDataset*>(GDALOpen(file("bits.tif").c_str(), GA_ReadOnly));
+        ASSERT_NE(tiff, nullptr);
+        EXPECT_STREQ(tiff->GetMetadataItem("PREDICTOR", "IMAGE_STRUCTURE"), "2");
+        GDALClose(tiff);
+    }
 }
 
 TEST_F(GdalMapTest, AsciiGridWithoutProjectionDropsAnOldOne)
