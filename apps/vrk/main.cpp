@@ -156,16 +156,12 @@ int runCommandLine(int argc, char** argv)
     return 2;
 }
 
-// Maps are read and calculated by strips of a few MiB on several threads at once.
-// - A few allocator arenas rather than one per thread: each reserves 64 MiB of address
-//   space, which a process under an address-space limit needs for its maps.
-// - Strips freed stay with the allocator for the next ones, rather than going back to
-//   the system and being faulted in afresh; whole maps are still given back.
+// Maps are read and calculated by strips on several threads at once. A few allocator
+// arenas rather than one per thread: each reserves 64 MiB of address space, which a
+// process under an address-space limit needs for its maps.
 void tuneAllocator()
 {
     mallopt(M_ARENA_MAX, 4);
-    mallopt(M_MMAP_THRESHOLD, 32 << 20);
-    mallopt(M_TRIM_THRESHOLD, 64 << 20);
 }
 
 } // namespace

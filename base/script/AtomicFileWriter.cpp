@@ -3,56 +3,18 @@
 #include "base/error/ExceptionUtils.h"
 #include "base/error/UnableToAccessFileException.h"
 #include "base/script/StaleTemporaryRemover.h"
+#include "base/script/TemporaryFileList.h"
 #include "base/script/TemporaryFileName.h"
 
 #include <boost/filesystem/operations.hpp>
 
-#include <atomic>
-#include <climits>
-#include <cstring>
 #include <fstream>
-
-#include <unistd.h>
 
 namespace VRK {
 
 namespace {
 
 namespace fs = boost::filesystem;
-
-// The temporary files of the writes under way, kept where a signal handler may read
-// them: fixed buffers and lock-free flags, no allocation. A write that finds every slot
-// taken goes on unlisted.
-enum SlotState { Free, Filling, Listed };
-struct TemporarySlot {
-    std::atomic<int> state{Free};
-    char path[PATH_MAX];
-};
-constexpr size_t SlotCount = 16;
-TemporarySlot temporarySlots[SlotCount];
-static_assert(std::atomic<int>::is_always_lock_free, "a signal handler reads the slots");
-
-TemporarySlot* listTemporary(const fs::path& temporary)
-{
-    const std::string& name = temporary.native();
-    if (name.size() >= PATH_MAX)
-        return nullptr;
-    for (TemporarySlot& slot : temporarySlots) {
-        int free = Free;
-        if (!slot.state.compare_exchange_strong(free, Filling))
-            continue;
-        std::memcpy(slot.path, name.c_str(), name.size() + 1);
-        slot.state.store(Listed);
-        return &slot;
-    }
-    return nullptr;
-}
-
-void unlistTemporary(TemporarySlot* slot)
-{
-    if (slot)
-        slot->state.store(Free);
-}
 
 [[noreturn]] void fail(const fs::path& target, const std::string& reason)
 {
@@ -119,23 +81,19 @@ void AtomicFileWriter::writeFile(const fs::path& target, const FileContent& cont
     const fs::path destination = followLinks(target);
     StaleTemporaryRemover::removeFor(destination);
     const fs::path temporary = TemporaryFileName::beside(destination);
-    TemporarySlot* listed = listTemporary(temporary);
+    const TemporaryFileList listed(temporary);
     try {
         writeAndRename(destination, temporary, content);
     } catch (...) {
         boost::system::error_code ignored;
         fs::remove(temporary, ignored);
-        unlistTemporary(listed);
         throw;
     }
-    unlistTemporary(listed);
 }
 
 void AtomicFileWriter::removeTemporaries() noexcept
 {
-    for (TemporarySlot& slot : temporarySlots)
-        if (slot.state.load() == Listed)
-            ::unlink(slot.path);
+    TemporaryFileList::removeAll();
 }
 
 } // namespace VRK

@@ -28,9 +28,10 @@ public:
     static void write(const boost::filesystem::path& target, const Content& content);
     static void writeFile(const boost::filesystem::path& target, const FileContent& content);
 
-    // Removes the temporary files of the writes under way, for a signal handler that
-    // ends the process: it only unlinks files, which is safe inside a handler. Writes
-    // that start or end meanwhile are left alone.
+    // Removes the temporary files of the writes under way, and any other file listed
+    // in TemporaryFileList, for a signal handler that ends the process: it only unlinks
+    // files, which is safe inside a handler. Writes that start or end meanwhile are
+    // left alone.
     static void removeTemporaries() noexcept;
 };
 

@@ -14,7 +14,8 @@ namespace Maps {
 
 TemporaryMapFile::TemporaryMapFile(const Tessaly::Raster& header)
     : file_(boost::filesystem::temp_directory_path()
-            / boost::filesystem::unique_path("vrk-map-%%%%-%%%%-%%%%.tif"))
+            / boost::filesystem::unique_path("vrk-map-%%%%-%%%%-%%%%.tif")),
+      listed_(file_)
 {
     GdalUtils::registerFormats();
     CPLErrorReset();

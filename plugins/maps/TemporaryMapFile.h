@@ -1,6 +1,7 @@
 #ifndef VRK_PLUGINS_MAPS_TEMPORARYMAPFILE_H
 #define VRK_PLUGINS_MAPS_TEMPORARYMAPFILE_H
 
+#include "base/script/TemporaryFileList.h"
 #include "tessaly/raster/RasterSource.h"
 
 #include <boost/filesystem/path.hpp>
@@ -32,6 +33,8 @@ private:
     [[noreturn]] void fail() const;
 
     boost::filesystem::path file_;
+    // A second Ctrl-C, which ends the process at once, removes the file too.
+    VRK::TemporaryFileList listed_;
     std::unique_ptr<GDALDataset> dataset_;
 };
 
