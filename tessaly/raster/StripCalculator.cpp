@@ -1,6 +1,7 @@
 #include "tessaly/raster/StripCalculator.h"
 
 #include <algorithm>
+#include <cstring>
 #include <deque>
 #include <system_error>
 #include <future>
@@ -83,16 +84,19 @@ std::vector<StripCalculator::Strip> StripCalculator::planStrips() const
     return strips;
 }
 
-// A map named twice (i1 and #image alike) is read once per strip. With more than one
-// processor, each map is read on a thread of its own; without a thread to spare, where
-// it is asked for.
+// A map named twice (i1 and #image alike) is read once. With more than one processor,
+// each map is read on a thread of its own; without a thread to spare, where it is
+// asked for. Only the strip's own lines are read: the lines its windows reach come
+// from the strips around it, so that no line is read twice.
 StripCalculator::Reads StripCalculator::startReading(const Strip& strip) const
 {
     Reads reads;
     for (const RasterSource* image : inputs_.images) {
         if (!image || image->getWhole() || reads.count(image))
             continue;
-        const auto read = [image, strip] { return image->readLines(strip.top, strip.bottom); };
+        const auto read = [image, strip] {
+            return image->readLines(strip.firstLine, strip.endLine);
+        };
         try {
             reads.emplace(image, std::async(processors_ > 1 ? std::launch::async
                                                             : std::launch::deferred,
@@ -110,25 +114,64 @@ void StripCalculator::forEachStrip(const Body& body) const
 {
     const std::vector<Strip> plan = planStrips();
     std::deque<Reads> pending;
-    std::size_t next = 0;
-    const auto readAhead = [&] {
-        while (next < plan.size() && int(pending.size()) < std::max(1, processors_))
-            pending.push_back(startReading(plan[next++]));
+    std::map<std::size_t, std::map<const RasterSource*, Raster>> read;
+    std::size_t started = 0;
+    std::size_t finished = 0;
+    const auto readAhead = [&](std::size_t needed) {
+        while (started < plan.size()
+               && (started < needed || int(pending.size()) < std::max(1, processors_)))
+            pending.push_back(startReading(plan[started++]));
     };
     for (const Strip& strip : plan) {
-        readAhead();
-        std::map<const RasterSource*, Raster> read;
-        for (auto& reading : pending.front())
-            read.emplace(reading.first, reading.second.get());
-        pending.pop_front();
-        readAhead();
+        std::size_t needed = finished;
+        while (needed < plan.size() && plan[needed].firstLine < strip.bottom)
+            ++needed;
+        readAhead(needed);
+        for (; finished < needed; ++finished, pending.pop_front())
+            for (auto& reading : pending.front())
+                read[finished].emplace(reading.first, reading.second.get());
+        while (!read.empty() && plan[read.begin()->first].endLine <= strip.top)
+            read.erase(read.begin());
+        readAhead(0);
+        std::map<const RasterSource*, Raster> joined;
         std::vector<const Raster*> strips;
-        for (const RasterSource* image : inputs_.images) {
-            const Raster* whole = image ? image->getWhole() : nullptr;
-            strips.push_back(!image || whole ? whole : &read.at(image));
-        }
+        for (const RasterSource* image : inputs_.images)
+            strips.push_back(linesOf(image, strip, read, joined));
         body(strip.firstLine, strip.endLine, withImages(strips));
     }
+}
+
+// The lines [top, bottom) of `image`: the map whole, one strip read, or the strips
+// read joined into `joined`.
+const Raster* StripCalculator::linesOf(
+    const RasterSource* image, const Strip& strip,
+    const std::map<std::size_t, std::map<const RasterSource*, Raster>>& read,
+    std::map<const RasterSource*, Raster>& joined)
+{
+    if (!image || image->getWhole())
+        return image ? image->getWhole() : nullptr;
+    std::vector<const Raster*> pieces;
+    for (const auto& strips : read)
+        pieces.push_back(&strips.second.at(image));
+    if (pieces.size() == 1)
+        return pieces.front();
+    auto found = joined.find(image);
+    if (found != joined.end())
+        return &found->second;
+    Raster lines = Raster::stripOf(*pieces.front(), strip.top, strip.bottom);
+    const std::size_t lineBytes =
+        std::size_t(lines.getColumnCount()) * Raster::getCellSize(lines.getCellType());
+    for (const Raster* piece : pieces) {
+        const int first = std::max(strip.top, piece->getFirstLine());
+        const int end = std::min(strip.bottom, piece->getEndLine());
+        if (first < end)
+            std::memcpy(static_cast<unsigned char*>(lines.rawCells())
+                            + std::size_t(first - strip.top) * lineBytes,
+                        static_cast<const unsigned char*>(piece->rawCells())
+                            + std::size_t(first - piece->getFirstLine()) * lineBytes,
+                        std::size_t(end - first) * lineBytes);
+    }
+    return &joined.emplace(image, std::move(lines)).first->second;
 }
 
 } // namespace Tessaly

@@ -45,7 +45,8 @@ public:
 
 private:
     using Body = std::function<void(int firstLine, int endLine, const ImageCalculationInputs&)>;
-    // The lines [firstLine, endLine) of the result, read from the lines [top, bottom).
+    // The lines [firstLine, endLine) of the result, calculated from the lines
+    // [top, bottom) of its maps.
     struct Strip {
         int firstLine;
         int endLine;
@@ -58,6 +59,10 @@ private:
     void forEachStrip(const Body& body) const;
     std::vector<Strip> planStrips() const;
     Reads startReading(const Strip& strip) const;
+    static const Raster*
+    linesOf(const RasterSource* image, const Strip& strip,
+            const std::map<std::size_t, std::map<const RasterSource*, Raster>>& read,
+            std::map<const RasterSource*, Raster>& joined);
     ImageCalculationInputs withImages(std::vector<const Raster*> images) const;
     bool allWhole() const;
 
