@@ -20,8 +20,8 @@ namespace {
 // Lines read at once: a cancelled run stops between two such slices.
 constexpr int SliceLines = 256;
 
-// Handles kept at most: beyond a few, readers of one map gain nothing more.
-constexpr int MostHandles = 8;
+// Handles kept at most: each holds a file descriptor, and a model may hold many maps.
+constexpr int MostHandles = 4;
 
 Tessaly::CellType cellTypeOf(GDALDataType fileType, const boost::filesystem::path& file)
 {
