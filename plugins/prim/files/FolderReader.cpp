@@ -2,18 +2,22 @@
 
 #include "plugins/prim/files/FolderEditor.h"
 #include "plugins/prim/values/PrimEditorUtils.h"
+#include "plugins/prim/values/ValueReaderDefinition.h"
+
+#include <tuple>
 
 namespace Prim {
 
-template <class ScannerT>
-FolderReader<ScannerT>::FolderReader(VRK::DataEditor* dataEditor)
-    : FilenameReader<ScannerT>(dataEditor, "Folder name")
-{
-    // Only a folder's editor may be read as a folder.
-    PrimEditorUtils::editorOf<FolderEditor>(dataEditor);
-}
+struct FolderReading {
+    static auto arguments(VRK::DataEditor* dataEditor)
+    {
+        // Only a folder's editor may be read as a folder.
+        PrimEditorUtils::editorOf<FolderEditor>(dataEditor);
+        return std::make_tuple(dataEditor, "Folder name");
+    }
+};
 
-template class FolderReader<VRK::ScriptScanner>;
-template class FolderReader<VRK::PlainScanner>;
+template class ValueReader<VRK::ScriptScanner, FilenameReader, FolderReading>;
+template class ValueReader<VRK::PlainScanner, FilenameReader, FolderReading>;
 
 } // namespace Prim

@@ -2,18 +2,14 @@
 #define VRK_PLUGINS_PRIM_FILES_FOLDERREADER_H
 
 #include "plugins/prim/files/FilenameReader.h"
+#include "plugins/prim/values/ValueReader.h"
 
 namespace Prim {
 
 // Reads a folder name between double quotes into a folder editor.
+struct FolderReading;
 template <class ScannerT>
-class FolderReader : public FilenameReader<ScannerT> {
-public:
-    explicit FolderReader(VRK::DataEditor* dataEditor);
-};
-
-extern template class FolderReader<VRK::ScriptScanner>;
-extern template class FolderReader<VRK::PlainScanner>;
+using FolderReader = ValueReader<ScannerT, FilenameReader, FolderReading>;
 
 } // namespace Prim
 

@@ -2,18 +2,21 @@
 
 #include "plugins/prim/files/PathEditor.h"
 #include "plugins/prim/values/PrimReaderUtils.h"
+#include "plugins/prim/values/ValueReaderDefinition.h"
+
+#include <tuple>
 
 namespace Prim {
 
-template <class ScannerT>
-PathReader<ScannerT>::PathReader(VRK::DataEditor* dataEditor)
-    : QuotedTextReader<ScannerT>(dataEditor, "a file path",
-                                 QuotedTextReader<ScannerT>::Escapes::none,
-                                 PrimReaderUtils::setterOf(dataEditor, &PathEditor::setPath))
-{
-}
+struct PathReading {
+    static auto arguments(VRK::DataEditor* dataEditor)
+    {
+        return std::make_tuple(dataEditor, "a file path", QuotedTextEscapes::none,
+                               PrimReaderUtils::setterOf(dataEditor, &PathEditor::setPath));
+    }
+};
 
-template class PathReader<VRK::ScriptScanner>;
-template class PathReader<VRK::PlainScanner>;
+template class ValueReader<VRK::ScriptScanner, QuotedTextReader, PathReading>;
+template class ValueReader<VRK::PlainScanner, QuotedTextReader, PathReading>;
 
 } // namespace Prim

@@ -19,6 +19,7 @@ public:
     template <class EditorT>
     static EditorT& editorOf(VRK::DataEditor* dataEditor)
     {
+        assert(dataEditor != 0 && "dataEditor != 0");
         EditorT* editor = dynamic_cast<EditorT*>(dataEditor);
         assert(editor != 0 && "editor != 0");
         return *editor;

@@ -10,8 +10,9 @@
 
 namespace Prim {
 
-// A reader whose grammar is one rule, which the deriving reader's constructor sets once.
-// The rule's actions point into the reader and its editor, so a reader is never copied.
+// A reader whose grammar is one rule, which the deriving reader sets once, or which it is
+// made with. The rule's actions point into the reader and its editor, so a reader is
+// never copied.
 template <class ScannerT>
 class RuleReader : public VRK::DataReader<ScannerT> {
 public:
@@ -22,6 +23,12 @@ public:
 
 protected:
     explicit RuleReader(VRK::DataEditor* dataEditor);
+
+    template <class ParserT>
+    RuleReader(VRK::DataEditor* dataEditor, const ParserT& grammar) : RuleReader(dataEditor)
+    {
+        setGrammar(grammar);
+    }
 
     template <class ParserT>
     void setGrammar(const ParserT& parser)

@@ -2,20 +2,14 @@
 #define VRK_PLUGINS_PRIM_VALUES_KEYWORDS_BOOLREADER_H
 
 #include "plugins/prim/values/RuleReader.h"
-
-#include <string>
+#include "plugins/prim/values/ValueReader.h"
 
 namespace Prim {
 
 // Reads ".yes" or ".true" as true, ".no" or ".false" as false.
+struct BoolReading;
 template <class ScannerT>
-class BoolReader : public RuleReader<ScannerT> {
-public:
-    explicit BoolReader(VRK::DataEditor* dataEditor);
-};
-
-extern template class BoolReader<VRK::ScriptScanner>;
-extern template class BoolReader<VRK::PlainScanner>;
+using BoolReader = ValueReader<ScannerT, RuleReader, BoolReading>;
 
 } // namespace Prim
 

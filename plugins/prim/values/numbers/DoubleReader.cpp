@@ -1,19 +1,23 @@
 #include "plugins/prim/values/numbers/DoubleReader.h"
 
 #include "plugins/prim/values/PrimReaderUtils.h"
+#include "plugins/prim/values/ValueReaderDefinition.h"
 #include "plugins/prim/values/numbers/DoubleEditor.h"
+
+#include <tuple>
 
 namespace Prim {
 
-template <class ScannerT>
-DoubleReader<ScannerT>::DoubleReader(VRK::DataEditor* dataEditor)
-    : NumberReader<ScannerT, double>(
-        dataEditor, "Expecting a double precision real.",
-        &PrimReaderUtils::set<DoubleEditor, double, &DoubleEditor::setDouble>)
-{
-}
+struct DoubleReading {
+    static auto arguments(VRK::DataEditor* dataEditor)
+    {
+        return std::make_tuple(
+            dataEditor, "Expecting a double precision real.",
+            &PrimReaderUtils::set<DoubleEditor, double, &DoubleEditor::setDouble>);
+    }
+};
 
-template class DoubleReader<VRK::ScriptScanner>;
-template class DoubleReader<VRK::PlainScanner>;
+template class ValueReader<VRK::ScriptScanner, RealNumberReader, DoubleReading>;
+template class ValueReader<VRK::PlainScanner, RealNumberReader, DoubleReading>;
 
 } // namespace Prim

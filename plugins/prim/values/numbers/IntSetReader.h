@@ -2,22 +2,16 @@
 #define VRK_PLUGINS_PRIM_VALUES_NUMBERS_INTSETREADER_H
 
 #include "plugins/prim/values/RuleReader.h"
-
-#include <string>
+#include "plugins/prim/values/ValueReader.h"
 
 namespace Prim {
 
 // Reads a non-empty set of integers between brackets, as "[ 1, 5, 7 ]";
 // the commas between elements are optional. Each element goes to the editor as soon as
 // it is read, so elements read before an error stay in the editor.
+struct IntSetReading;
 template <class ScannerT>
-class IntSetReader : public RuleReader<ScannerT> {
-public:
-    explicit IntSetReader(VRK::DataEditor* dataEditor);
-};
-
-extern template class IntSetReader<VRK::ScriptScanner>;
-extern template class IntSetReader<VRK::PlainScanner>;
+using IntSetReader = ValueReader<ScannerT, RuleReader, IntSetReading>;
 
 } // namespace Prim
 

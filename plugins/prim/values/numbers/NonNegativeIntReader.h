@@ -1,19 +1,15 @@
 #ifndef VRK_PLUGINS_PRIM_VALUES_NUMBERS_NONNEGATIVEINTREADER_H
 #define VRK_PLUGINS_PRIM_VALUES_NUMBERS_NONNEGATIVEINTREADER_H
 
+#include "plugins/prim/values/ValueReader.h"
 #include "plugins/prim/values/numbers/NumberReader.h"
 
 namespace Prim {
 
 // Reads a decimal integer; the editor refuses negative ones.
+struct NonNegativeIntReading;
 template <class ScannerT>
-class NonNegativeIntReader : public NumberReader<ScannerT, int> {
-public:
-    explicit NonNegativeIntReader(VRK::DataEditor* dataEditor);
-};
-
-extern template class NonNegativeIntReader<VRK::ScriptScanner>;
-extern template class NonNegativeIntReader<VRK::PlainScanner>;
+using NonNegativeIntReader = ValueReader<ScannerT, IntNumberReader, NonNegativeIntReading>;
 
 } // namespace Prim
 

@@ -29,6 +29,12 @@ private:
     Setter set_;
 };
 
+// The number readers by the kind of number, as value readers take their base.
+template <class ScannerT>
+using IntNumberReader = NumberReader<ScannerT, int>;
+template <class ScannerT>
+using RealNumberReader = NumberReader<ScannerT, double>;
+
 extern template class NumberReader<VRK::ScriptScanner, int>;
 extern template class NumberReader<VRK::PlainScanner, int>;
 extern template class NumberReader<VRK::ScriptScanner, double>;

@@ -1,20 +1,24 @@
 #include "plugins/prim/values/numbers/PositiveIntReader.h"
 
 #include "plugins/prim/values/PrimReaderUtils.h"
+#include "plugins/prim/values/ValueReaderDefinition.h"
 #include "plugins/prim/values/numbers/PositiveIntEditor.h"
+
+#include <tuple>
 
 namespace Prim {
 
-// The sign is the editor's to check, so that "0" gets its message, not ours.
-template <class ScannerT>
-PositiveIntReader<ScannerT>::PositiveIntReader(VRK::DataEditor* dataEditor)
-    : NumberReader<ScannerT, int>(
-        dataEditor, "Expecting a positive integer.",
-        &PrimReaderUtils::set<PositiveIntEditor, int, &PositiveIntEditor::setPositiveInt>)
-{
-}
+struct PositiveIntReading {
+    static auto arguments(VRK::DataEditor* dataEditor)
+    {
+        // The sign is the editor's to check, so that "0" gets its message, not ours.
+        return std::make_tuple(
+            dataEditor, "Expecting a positive integer.",
+            &PrimReaderUtils::set<PositiveIntEditor, int, &PositiveIntEditor::setPositiveInt>);
+    }
+};
 
-template class PositiveIntReader<VRK::ScriptScanner>;
-template class PositiveIntReader<VRK::PlainScanner>;
+template class ValueReader<VRK::ScriptScanner, IntNumberReader, PositiveIntReading>;
+template class ValueReader<VRK::PlainScanner, IntNumberReader, PositiveIntReading>;
 
 } // namespace Prim

@@ -8,22 +8,25 @@
 
 namespace Prim {
 
+// Whether a backslash in a quoted text protects the character after it.
+enum class QuotedTextEscapes {
+    // A backslash is an ordinary character, such as a path separator.
+    none,
+    // A backslash protects the character after it, so that a protected quote does
+    // not end the text. The text is handed over as written but for backslash-quote,
+    // which is turned back into a quote.
+    backslash
+};
+
 // Reads a text between double quotes, as one lexeme, and hands it to one setter of the
 // editor. The readers of the textual types differ only in what they call the text,
 // whether a backslash protects the character after it, and their setter.
 template <class ScannerT>
 class QuotedTextReader : public RuleReader<ScannerT> {
 public:
-protected:
-    enum class Escapes {
-        // A backslash is an ordinary character, such as a path separator.
-        none,
-        // A backslash protects the character after it, so that a protected quote does
-        // not end the text. The text is handed over as written but for backslash-quote,
-        // which is turned back into a quote.
-        backslash
-    };
+    using Escapes = QuotedTextEscapes;
 
+protected:
     // `item` names the text in the message of a text that does not read
     // ("Expecting " + item + " enclosed by '\"'.").
     QuotedTextReader(VRK::DataEditor* dataEditor, const std::string& item, Escapes escapes,

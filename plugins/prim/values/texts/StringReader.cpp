@@ -1,19 +1,22 @@
 #include "plugins/prim/values/texts/StringReader.h"
 
 #include "plugins/prim/values/PrimReaderUtils.h"
+#include "plugins/prim/values/ValueReaderDefinition.h"
 #include "plugins/prim/values/texts/StringEditor.h"
+
+#include <tuple>
 
 namespace Prim {
 
-template <class ScannerT>
-StringReader<ScannerT>::StringReader(VRK::DataEditor* dataEditor)
-    : QuotedTextReader<ScannerT>(dataEditor, "a string",
-                                 QuotedTextReader<ScannerT>::Escapes::backslash,
-                                 PrimReaderUtils::setterOf(dataEditor, &StringEditor::setString))
-{
-}
+struct StringReading {
+    static auto arguments(VRK::DataEditor* dataEditor)
+    {
+        return std::make_tuple(dataEditor, "a string", QuotedTextEscapes::backslash,
+                               PrimReaderUtils::setterOf(dataEditor, &StringEditor::setString));
+    }
+};
 
-template class StringReader<VRK::ScriptScanner>;
-template class StringReader<VRK::PlainScanner>;
+template class ValueReader<VRK::ScriptScanner, QuotedTextReader, StringReading>;
+template class ValueReader<VRK::PlainScanner, QuotedTextReader, StringReading>;
 
 } // namespace Prim
