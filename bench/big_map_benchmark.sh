@@ -53,10 +53,17 @@ measure() {
 }
 
 echo "maps of $size x $size Float32 cells, --memory $budget, $processors processors"
-gdal_create -q -of GTiff -outsize "$size" "$size" -ot Float32 -burn 0 -a_nodata -9999 \
-    -co TILED=YES -co COMPRESS=DEFLATE -co BIGTIFF=YES empty.tif
-cp "$here/big_map_inputs.vrk" make.vrk
-measure "making the inputs (vrk)" "$vrk" run make.vrk --memory "$budget" --processors "$processors"
+# Inputs of the same size that an earlier run left in the folder are used again.
+if [ "$(gdalinfo a.tif 2> /dev/null | grep -c "^Size is $size, $size$")" = 1 ] &&
+    [ "$(gdalinfo b.tif 2> /dev/null | grep -c "^Size is $size, $size$")" = 1 ]; then
+    echo "the inputs a.tif and b.tif of $folder are used again"
+else
+    gdal_create -q -of GTiff -outsize "$size" "$size" -ot Float32 -burn 0 -a_nodata -9999 \
+        -co TILED=YES -co COMPRESS=DEFLATE -co BIGTIFF=YES empty.tif
+    cp "$here/big_map_inputs.vrk" make.vrk
+    measure "making the inputs (vrk)" "$vrk" run make.vrk --memory "$budget" \
+        --processors "$processors"
+fi
 
 cat > if.vrk <<'SCRIPT'
 a := LoadMap filename = "a.tif";
