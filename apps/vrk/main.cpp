@@ -23,6 +23,7 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <vector>
 
 namespace {
@@ -164,6 +165,18 @@ void tuneAllocator()
     mallopt(M_ARENA_MAX, 4);
 }
 
+// Each map loaded keeps a few handles on its file, one per reading thread, for as long
+// as the map lives: a model holding hundreds of maps needs more open files than the
+// usual soft limit of 1024, and the hard limit is the process's to take.
+void raiseOpenFileLimit()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < limit.rlim_max) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -172,6 +185,7 @@ int main(int argc, char** argv)
     // removes its temporary file, instead of ending the process.
     std::signal(SIGXFSZ, SIG_IGN);
     tuneAllocator();
+    raiseOpenFileLimit();
     const InterruptGuard interrupt;
     try {
         return runCommandLine(argc, argv);

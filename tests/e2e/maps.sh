@@ -356,5 +356,22 @@ c := CalculateLookupTable expression = [ i1 ] {
 SCRIPT
 refused "map in a table" "The run of \"c\" (CalculateLookupTable) failed: The expression \"i1\" names a map, which CalculateLookupTable does not provide." 2:1 1
 
+# Every map loaded keeps handles on its file while it lives: 60 maps at once need more
+# open files than a soft limit of 64, which vrk raises to the hard limit.
+fresh < <(python3 - <<'PYTHON'
+maps = range(1, 61)
+print("\n".join('m%d := LoadMap filename = "a.asc";' % i for i in maps))
+print("c := CalculateMap expression = [ " + " + ".join("i%d" % i for i in maps) + " ] {")
+print("\n".join("    NumberMap map = m%d.map mapNumber = %d;" % (i, i) for i in maps))
+print("}")
+print('SaveMap map = c.result filename = "sum.asc";')
+PYTHON
+)
+if [ "$(ulimit -Hn)" = unlimited ] || [ "$(ulimit -Hn)" -gt 256 ]; then
+    (cd "$work" && ulimit -Sn 64 && "$vrk" run script.vrk --log-level .error) ||
+        fail "60 maps under a soft limit of 64 open files"
+    [ -s "$work/sum.asc" ] || fail "60 maps: no sum written"
+fi
+
 [ "$failed" = 0 ] && echo "maps: all cases passed"
 exit "$failed"
